@@ -1,0 +1,67 @@
+#include "log.h"
+
+#include "data_folder.h"
+#include "registered_data_folder.h"
+
+#include <QDateTime>
+#include <QFile>
+#include <cstdio>
+
+namespace q7
+{
+namespace
+{
+
+constexpr char logFileName[] = "log_q7.txt";
+
+// The dots make the messages line up; programs that read the log rely on them.
+const char* tagOf(int kind)
+{
+    switch (kind) {
+    case static_cast<int>(LogKind::SentCommands):
+        return "COMANDOSENVIADOS].....[";
+    case static_cast<int>(LogKind::Function):
+        return "FUNCAO]...............[";
+    case static_cast<int>(LogKind::Information):
+        return "INFO]................[";
+    default:
+        return "LOGINDEFINIDO]........[";
+    }
+}
+
+} // namespace
+
+bool logIsOn()
+{
+    return existsInDataFolder(logFileName);
+}
+
+void writeLog(int kind, const char* message)
+{
+    if (!logIsOn())
+        return;
+
+    const QString time = QDateTime::currentDateTime().toString("dd.MM.yyyy-hh:mm:ss.zzz");
+    const QString line = '[' + time + "].....[" + tagOf(kind) + QString::fromUtf8(message) + "]\n";
+
+    // Opened for each line, so that an operator can move the file away while the library is loaded.
+    // ExistingOnly: a file deleted since the test above must not come back.
+    QFile file(pathInDataFolder(logFileName));
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::ExistingOnly |
+                   QIODevice::Unbuffered)) {
+        if (logIsOn()) {
+            std::fputs("Erro ao abrir arquivo!\n", stdout);
+            std::fflush(stdout);
+        }
+        return;
+    }
+    file.write(line.toUtf8());
+}
+
+void writeLog(LogKind kind, const QString& message)
+{
+    if (logIsOn())
+        writeLog(static_cast<int>(kind), message.toUtf8().constData());
+}
+
+} // namespace q7

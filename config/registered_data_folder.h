@@ -1,0 +1,17 @@
+// The platform's side of the data folder: what the installer registered.
+#pragma once
+
+#include <QString>
+
+namespace q7
+{
+
+/** The text registered for this machine, empty when there is none. Windows: the value "data_path"
+ *  of the key HKEY_LOCAL_MACHINE\SOFTWARE\Q7. Linux: the environment variable Q7_DATA_PATH. */
+QString registeredDataFolder();
+
+/** Whether a file of this name exists in the data folder. Asked before every line of the log, most
+ *  often to learn that the log is off: the cheapest test that the platform has. */
+bool existsInDataFolder(const char* fileName);
+
+} // namespace q7

@@ -1,0 +1,34 @@
+#include "escrever_ler.h"
+
+#include "q7_impressora.h"
+
+namespace q7
+{
+
+EscreverLer::Reply EscreverLer::readReply(int timeoutMs, const ReplyIsWhole& isWhole)
+{
+    if (!m_connection.isOpen())
+        return {Q7_ERR_NOT_OPEN, {}};
+    m_connection.handOver();
+    if (!m_connection.waitReadable())
+        return {Q7_ERR_NO_REPLY, {}};
+    const QByteArray data = m_connection.readReply(timeoutMs, isWhole);
+    return {data.isEmpty() ? Q7_ERR_NO_REPLY : Q7_OK, data};
+}
+
+bool endsWithZero(const QByteArray& reply)
+{
+    return reply.contains('\0');
+}
+
+bool isOneByte(const QByteArray& reply)
+{
+    return !reply.isEmpty();
+}
+
+bool isNeverWhole(const QByteArray& /*reply*/)
+{
+    return false;
+}
+
+} // namespace q7

@@ -1,0 +1,91 @@
+#include "serial_link.h"
+
+#include "q7_impressora.h"
+#include "serial_system.h"
+#include "thread_free.h"
+
+#include <QThread>
+
+namespace q7
+{
+namespace
+{
+
+/** Runs a function on a thread that has an event dispatcher, and waits for its end. */
+template <typename Function> void runOnQtThread(Function function)
+{
+    const std::unique_ptr<QThread> thread(QThread::create(function));
+    thread->start();
+    thread->wait();
+}
+
+int codeOf(QSerialPort::SerialPortError error)
+{
+    switch (error) {
+    case QSerialPort::PermissionError:
+        return Q7_ERR_SERIAL_DENIED;
+    case QSerialPort::UnknownError:
+        return Q7_ERR_SERIAL_UNKNOWN;
+    case QSerialPort::DeviceNotFoundError:
+        return Q7_ERR_SERIAL_NOT_FOUND;
+    default:
+        return Q7_ERR_FAILED;
+    }
+}
+
+} // namespace
+
+SerialLink::Opened SerialLink::open(const QString& portName, int bitsPerSecond)
+{
+    auto port = std::unique_ptr<QSerialPort>();
+    int result = Q7_OK;
+    // A serial port makes its notifiers when it opens and when it first writes, and complains where
+    // there is no event dispatcher for them. It gets one for that long and then leaves its thread.
+    runOnQtThread([&] {
+        port = std::make_unique<QSerialPort>();
+        port->setPortName(portName);
+        port->setBaudRate(bitsPerSecond);
+        port->setParity(QSerialPort::NoParity);
+        port->setDataBits(QSerialPort::Data8);
+        port->setStopBits(QSerialPort::OneStop);
+        port->setFlowControl(QSerialPort::NoFlowControl);
+        if (port->open(QIODevice::ReadWrite))
+            prepareSerialWrites(*port);
+        else
+            result = codeOf(port->error());
+        leaveThread(*port);
+    });
+    if (result != Q7_OK)
+        return {nullptr, result};
+    return {std::make_unique<SerialLink>(std::move(port)), Q7_OK};
+}
+
+SerialLink::SerialLink(std::unique_ptr<QSerialPort> port)
+    : StreamLink(*port), m_port(std::move(port))
+{
+}
+
+SerialLink::~SerialLink() = default;
+
+bool SerialLink::isOpen() const
+{
+    return m_port->isOpen();
+}
+
+void SerialLink::flushDevice()
+{
+    m_port->flush();
+}
+
+int SerialLink::close()
+{
+    if (m_port->isOpen()) {
+        deliverAll();
+        waitUntilDrained(*m_port);
+        m_port->flush();
+        m_port->close();
+    }
+    return m_port->isOpen() ? Q7_ERR_FAILED : Q7_OK;
+}
+
+} // namespace q7

@@ -1,0 +1,20 @@
+// The system's side of serial ports.
+#pragma once
+
+#include <QSerialPort>
+#include <QString>
+
+namespace q7
+{
+
+/** The port that a caller's text, which arrives in capitals, names; empty when there is none. */
+QString resolveSerialPortName(const QString& text);
+
+/** Makes an open port ready to write from threads without an event dispatcher. Runs in the thread
+ *  that opened it. */
+void prepareSerialWrites(QSerialPort& port);
+
+/** Waits until what the system took has gone down the line; gives up after 5 s without progress. */
+void waitUntilDrained(QSerialPort& port);
+
+} // namespace q7

@@ -1,0 +1,35 @@
+// What the system's socket interface offers beyond QTcpSocket.
+#pragma once
+
+#include <QHostAddress>
+#include <QString>
+#include <vector>
+
+namespace q7
+{
+
+/** Tells the other side that nothing more will come; reading goes on. */
+void shutDownSending(qintptr socketDescriptor);
+
+/** The addresses of a host name or a numeric address, in the system's order of preference; empty
+ *  when there are none. Blocks for as long as the system's resolver does. */
+std::vector<QHostAddress> systemLookUp(const QByteArray& host);
+
+/** Keeps this library in memory until the process ends. */
+void keepLibraryLoaded();
+
+/** For its life, writing to a connection that the other side has reset raises no signal in this
+ *  thread, whatever the host program has arranged. */
+class BrokenPipeGuard
+{
+public:
+    BrokenPipeGuard();
+    ~BrokenPipeGuard();
+    BrokenPipeGuard(const BrokenPipeGuard&) = delete;
+    BrokenPipeGuard& operator=(const BrokenPipeGuard&) = delete;
+
+private:
+    bool m_blockedHere = false;
+};
+
+} // namespace q7

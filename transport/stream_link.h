@@ -1,0 +1,59 @@
+// What serial and TCP links share: sends gathered by a buffered device, bounded reads.
+#pragma once
+
+#include "link.h"
+
+#include <QElapsedTimer>
+#include <QIODevice>
+
+namespace q7
+{
+
+/** Over a device without thread affinity (see thread_free.h), so that any thread may call. */
+class StreamLink : public Link
+{
+public:
+    explicit StreamLink(QIODevice& device) : m_device(device) {}
+
+    int send(const QByteArray& bytes) override;
+    void handOver() override;
+    bool waitReadable(int timeoutMs) override;
+    QByteArray readReply(QDeadlineTimer deadline, const ReplyIsWhole& isWhole) override;
+    void discardInput() override;
+
+protected:
+    /** Writes what the system takes without waiting. */
+    virtual void flushDevice() = 0;
+
+    /** Waits until everything was handed to the system; gives up after 5 s without progress or when
+     *  the link fails. */
+    void deliverAll();
+
+private:
+    bool waitForProgress(int timeoutMs);
+    QByteArray takeWaiting();
+
+    QIODevice& m_device;
+    // Set while the printer takes nothing: a receipt's hundreds of calls must not wait each.
+    bool m_stalled = false;
+};
+
+/** Progress of something that shrinks: expires when it has not shrunk for the time given. */
+class StallTimer
+{
+public:
+    StallTimer(qint64 remaining, int limitMs);
+
+    /** Takes the present amount; returns false once it has stood still for the limit. */
+    bool goesOn(qint64 remaining);
+
+private:
+    qint64 m_remaining;
+    int m_limitMs;
+    QElapsedTimer m_sinceProgress;
+};
+
+/** How long a printer that takes nothing is waited for when its link is closed. */
+constexpr int closeStallLimitMs = 5000;
+
+} // namespace q7

@@ -1,0 +1,68 @@
+#include "usb_link.h"
+
+#include "q7_impressora.h"
+
+#include <algorithm>
+
+namespace q7
+{
+namespace
+{
+
+constexpr int writeTimeoutMs = 1500;
+constexpr int writeTimeoutPerByteMs = 2;
+// What a printer that took nothing last time is given to show that it moves again.
+constexpr int stalledWriteTimeoutMs = 1;
+
+} // namespace
+
+UsbLink::UsbLink(std::unique_ptr<UsbDevice> device) : m_device(std::move(device)) {}
+
+bool UsbLink::isOpen() const
+{
+    return m_device != nullptr;
+}
+
+int UsbLink::send(const QByteArray& bytes)
+{
+    if (!isOpen())
+        return Q7_ERR_NOT_OPEN;
+    const int timeoutMs =
+        m_stalled ? stalledWriteTimeoutMs : writeTimeoutMs + writeTimeoutPerByteMs * bytes.size();
+    const UsbDevice::Written written = m_device->write(bytes, timeoutMs);
+    // The system's own number, although it can be taken for a count: applications know it.
+    if (written.error != 0)
+        return written.error;
+    m_stalled = written.count == 0 && !bytes.isEmpty();
+    return written.count == 0 ? int{Q7_ERR_NOT_SENT} : written.count;
+}
+
+bool UsbLink::waitReadable(int /*timeoutMs*/)
+{
+    return true;
+}
+
+QByteArray UsbLink::readReply(QDeadlineTimer deadline, const ReplyIsWhole& isWhole)
+{
+    QByteArray reply;
+    while (isOpen() && !isWhole(reply)) {
+        const auto left = static_cast<int>(deadline.remainingTime());
+        const QByteArray more = m_device->read(reply.isEmpty() ? left : std::min(left, replyGapMs));
+        if (more.isEmpty())
+            break;
+        reply += more;
+    }
+    return reply;
+}
+
+int UsbLink::close()
+{
+    if (!isOpen())
+        return Q7_ERR_NOT_OPEN;
+    const int error = m_device->close();
+    if (error == 0)
+        m_device.reset();
+    return error;
+}
+
+} // namespace q7

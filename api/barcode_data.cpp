@@ -1,0 +1,83 @@
+#include "barcode_data.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace q7
+{
+namespace
+{
+
+bool isDigit(char c)
+{
+    return c >= '0' && c <= '9';
+}
+
+bool isAscii(char c)
+{
+    return static_cast<unsigned char>(c) < 128;
+}
+
+bool isCode39(char c)
+{
+    return isDigit(c) || (c >= 'A' && c <= 'Z') || (c != '\0' && std::strchr(" $%*+-./", c));
+}
+
+bool isCodabar(char c)
+{
+    return isDigit(c) || (c != '\0' && std::strchr("-$:/.+", c));
+}
+
+bool isCodabarEnd(char c)
+{
+    return c != '\0' && std::strchr("ABCDabcd", c);
+}
+
+template <typename Test> bool all(const QByteArray& data, Test test)
+{
+    return std::all_of(data.begin(), data.end(), test);
+}
+
+// Without or with its check digit.
+bool isDigits(const QByteArray& data, int length)
+{
+    return (data.size() == length || data.size() == length + 1) && all(data, isDigit);
+}
+
+bool isShort(const QByteArray& data)
+{
+    return !data.isEmpty() && data.size() <= 255;
+}
+
+} // namespace
+
+bool isBarcodeData(int type, const QByteArray& data, bool choosesSubset)
+{
+    switch (type) {
+    case UpcA:
+        return isDigits(data, 11);
+    case UpcE:
+        return isDigits(data, 11) && data.startsWith('0');
+    case Ean13:
+        return isDigits(data, 12);
+    case Ean8:
+        return isDigits(data, 7);
+    case Code39:
+        return isShort(data) && all(data, isCode39);
+    case Itf: // an empty one would make the printer take the next command for its length
+        return !data.isEmpty() && data.size() % 2 == 0 && all(data, isDigit);
+    case Codabar:
+        return data.size() >= 2 && isCodabarEnd(data.front()) && isCodabarEnd(data.back()) &&
+               all(data.mid(1, data.size() - 2), isCodabar);
+    case Code93:
+        return isShort(data) && all(data, isAscii);
+    case Code128:
+        return (choosesSubset || data.startsWith("{A") || data.startsWith("{B") ||
+                data.startsWith("{C")) &&
+               all(data, isAscii);
+    default:
+        return false;
+    }
+}
+
+} // namespace q7

@@ -1,0 +1,15 @@
+// What each barcode symbology accepts.
+#pragma once
+
+#include <QByteArray>
+
+namespace q7
+{
+
+enum BarcodeType : int { UpcA, UpcE, Ean13, Ean8, Code39, Itf, Codabar, Code93, Code128 };
+
+/** Whether the data suits the symbology.
+ *  choosesSubset: the printer picks the Code 128 subset itself, so that no selector is needed. */
+bool isBarcodeData(int type, const QByteArray& data, bool choosesSubset);
+
+} // namespace q7

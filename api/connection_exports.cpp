@@ -1,0 +1,89 @@
+// Opening and closing the connection, and the library's version.
+
+#include "export_frame.h"
+#include "version.h"
+
+#include <algorithm>
+#include <cstring>
+#include <iterator>
+
+using namespace q7;
+
+namespace
+{
+
+constexpr int serialSpeeds[] = {300, 1200, 2400, 4800, 9600, 19200, 38400, 57600, 115200};
+
+bool isSerialSpeed(int bitsPerSecond)
+{
+    return std::find(std::begin(serialSpeeds), std::end(serialSpeeds), bitsPerSecond) !=
+           std::end(serialSpeeds);
+}
+
+// An open connection is abandoned as it stands: the application has lost it by opening again, but
+// what the printer is still being sent must not break off.
+void startNewConnection(PrinterSession& printerSession)
+{
+    printerSession.escreverLer.reset();
+    if (printerSession.isOpen())
+        static_cast<void>(printerSession.connection.release());
+    printerSession.connection = std::make_unique<PrinterConnection>();
+}
+
+Outcome open(PrinterSession& printerSession, int kind, const QString& model,
+             const QString& connectionText, int number)
+{
+    if (kind < UsbConnection || kind > NetworkConnection)
+        return returned(Q7_ERR_KIND);
+
+    if (const PrinterModel* row = modelByName(model))
+        printerSession.modelIndex = row->id;
+    else if (printerSession.lastResult != 0)
+        return returned(Q7_ERR_MODEL);
+    // else an unknown name passes behind a success, with the model of before: applications open
+    // first with a name of their own.
+
+    printerSession.lastResult = Q7_ERR_FAILED;
+    if (kind == SerialConnection && !isSerialSpeed(number))
+        return refused(Q7_ERR_SPEED);
+
+    PrinterConnection& connection = *printerSession.connection;
+    connection.setKind(kind);
+    printerSession.lastResult = connection.open(connectionText, model, number);
+    if (printerSession.lastResult == Q7_OK)
+        printerSession.escreverLer = std::make_unique<EscreverLer>(connection);
+    return returned(printerSession.lastResult);
+}
+
+} // namespace
+
+int Q7_CALL AbreConexaoImpressora(int tipo, const char* modelo, const char* conexao, int parametro)
+{
+    return guarded(int{Q7_ERR_FAILED}, [&] {
+        static constexpr ExportName name = {"AbreConexaoImpressora"};
+        PrinterSession& printerSession = session();
+        startNewConnection(printerSession);
+        const QString model = QString::fromUtf8(textOrEmpty(modelo)).toUpper();
+        const QString connectionText = QString::fromUtf8(textOrEmpty(conexao)).toUpper();
+        logCall(name, std::tie(tipo, model, connectionText, parametro));
+        const Outcome outcome = open(printerSession, tipo, model, connectionText, parametro);
+        if (outcome.isLogged)
+            logReturn(name, outcome.result);
+        return outcome.result;
+    });
+}
+
+int Q7_CALL FechaConexaoImpressora(void)
+{
+    return runSetting({"FechaConexaoImpressora"}, std::tuple(), [](PrinterSession& printerSession) {
+        printerSession.lastResult = printerSession.connection->close();
+        printerSession.escreverLer.reset();
+        printerSession.connection.reset();
+        return returned(printerSession.lastResult);
+    });
+}
+
+char* Q7_CALL GetVersaoDLL(void)
+{
+    return strdup(libraryVersion); // the caller keeps it
+}

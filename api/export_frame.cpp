@@ -1,0 +1,28 @@
+#include "export_frame.h"
+
+namespace q7
+{
+
+SessionCall::~SessionCall()
+{
+    guarded(0, [this] {
+        if (--m_session.callDepth == 0 && m_session.connection)
+            m_session.connection->handOver();
+        return 0;
+    });
+}
+
+void logExportLine(const ExportName& name, const char* what, const QString& text)
+{
+    const QString line = QString::fromUtf8(name.text) + what + text;
+    const QByteArray bytes = name.encoding == LogText::Latin1 ? line.toLatin1() : line.toUtf8();
+    writeLog(static_cast<int>(LogKind::Function), bytes.constData());
+}
+
+void logReturn(const ExportName& name, int result)
+{
+    if (logIsOn())
+        logExportLine(name, ". RETORNO:", QString::number(result));
+}
+
+} // namespace q7

@@ -1,0 +1,149 @@
+// The frame that every export runs in: log the call, test the link, run, log the result.
+#pragma once
+
+#include "log.h"
+#include "printer_session.h"
+#include "q7_impressora.h"
+
+#include <QString>
+#include <tuple>
+
+namespace q7
+{
+
+/** How an export's body ended. */
+struct Outcome {
+    int result;
+    bool isLogged; // with a RETORNO line
+};
+
+/** The result, told in a RETORNO line. */
+constexpr Outcome returned(int result)
+{
+    return {result, true};
+}
+
+/** A refusal or a failed send: no RETORNO line. */
+constexpr Outcome refused(int code)
+{
+    return {code, false};
+}
+
+/** 0 when a send wrote something, else what it returned. */
+constexpr Outcome returnedIfSent(int sendResult)
+{
+    return sendResult < 1 ? refused(sendResult) : returned(Q7_OK);
+}
+
+enum class LogText { Utf8, Latin1 };
+
+/** What an export's log lines begin with and how they are encoded. */
+struct ExportName {
+    const char* text;
+    LogText encoding = LogText::Utf8;
+};
+
+/** One export under way. When the outermost ends, the sends of all leave together. */
+class SessionCall
+{
+public:
+    explicit SessionCall(PrinterSession& printerSession) : m_session(printerSession)
+    {
+        ++m_session.callDepth;
+    }
+    ~SessionCall();
+    SessionCall(const SessionCall&) = delete;
+    SessionCall& operator=(const SessionCall&) = delete;
+
+private:
+    PrinterSession& m_session;
+};
+
+/** A text argument; a null pointer reads as empty text. */
+constexpr const char* textOrEmpty(const char* text)
+{
+    return text == nullptr ? "" : text;
+}
+
+void logExportLine(const ExportName& name, const char* what, const QString& text);
+
+inline QString logForm(int argument)
+{
+    return QString::number(argument);
+}
+inline QString logForm(const char* argument)
+{
+    return QString::fromUtf8(argument);
+}
+inline QString logForm(const QString& argument)
+{
+    return argument;
+}
+
+/** Logs an export's name and its arguments, joined by ",". */
+template <typename... Arguments>
+void logCall(const ExportName& name, const std::tuple<Arguments...>& arguments)
+{
+    if (!logIsOn())
+        return;
+    QString text;
+    std::apply(
+        [&text](const auto&... argument) {
+            bool first = true;
+            ((text += (first ? QString() : QString(',')) + logForm(argument), first = false), ...);
+        },
+        arguments);
+    logExportLine(name, ". PARAMETROS:", text);
+}
+
+void logReturn(const ExportName& name, int result);
+
+/** Runs what no exception may leave: everything that is called from outside. */
+template <typename Result, typename Body> Result guarded(Result onException, Body&& body) noexcept
+{
+    try {
+        return body();
+    } catch (...) {
+        return onException;
+    }
+}
+
+/** The frame without the step that forgets the last result.
+ *  body: takes the session, whose link is open; returns an Outcome. */
+template <typename... Arguments, typename Body>
+int runSetting(const ExportName& name, const std::tuple<Arguments...>& arguments,
+               Body&& body) noexcept
+{
+    return guarded(int{Q7_ERR_FAILED}, [&] {
+        PrinterSession& printerSession = session();
+        const SessionCall call(printerSession);
+        logCall(name, arguments);
+        if (!printerSession.isOpen())
+            return int{Q7_ERR_NOT_OPEN};
+        const Outcome outcome = body(printerSession);
+        if (outcome.isLogged)
+            logReturn(name, outcome.result);
+        return outcome.result;
+    });
+}
+
+/** The whole frame of a command export. */
+template <typename... Arguments, typename Body>
+int runCommand(const ExportName& name, const std::tuple<Arguments...>& arguments,
+               Body&& body) noexcept
+{
+    session().lastResult = Q7_ERR_FAILED;
+    return runSetting(name, arguments, std::forward<Body>(body));
+}
+
+/** The whole of an export that only sends: body returns the result of its last send. */
+template <typename... Arguments, typename Body>
+int runSend(const ExportName& name, const std::tuple<Arguments...>& arguments, Body&& body) noexcept
+{
+    return runCommand(name, arguments, [&](PrinterSession& printerSession) {
+        printerSession.lastResult = body(printerSession);
+        return returnedIfSent(printerSession.lastResult);
+    });
+}
+
+} // namespace q7

@@ -25,8 +25,10 @@ bool isSerialSpeed(int bitsPerSecond)
 void startNewConnection(PrinterSession& printerSession)
 {
     printerSession.escreverLer.reset();
-    if (printerSession.isOpen())
+    if (printerSession.isOpen()) {
+        printerSession.connection->endCall();
         static_cast<void>(printerSession.connection.release());
+    }
     printerSession.connection = std::make_unique<PrinterConnection>();
 }
 
@@ -62,6 +64,7 @@ int Q7_CALL AbreConexaoImpressora(int tipo, const char* modelo, const char* cone
     return guarded(int{Q7_ERR_FAILED}, [&] {
         static constexpr ExportName name = {"AbreConexaoImpressora"};
         PrinterSession& printerSession = session();
+        const SessionCall call(printerSession);
         startNewConnection(printerSession);
         const QString model = QString::fromUtf8(textOrEmpty(modelo)).toUpper();
         const QString connectionText = QString::fromUtf8(textOrEmpty(conexao)).toUpper();

@@ -3,11 +3,20 @@
 namespace q7
 {
 
+SessionCall::SessionCall(PrinterSession& printerSession) : m_session(printerSession)
+{
+    if (m_session.callDepth++ != 0)
+        return;
+    m_brokenPipe.emplace();
+    if (m_session.connection)
+        m_session.connection->beginCall();
+}
+
 SessionCall::~SessionCall()
 {
     guarded(0, [this] {
         if (--m_session.callDepth == 0 && m_session.connection)
-            m_session.connection->handOver();
+            m_session.connection->endCall();
         return 0;
     });
 }

@@ -4,8 +4,10 @@
 #include "log.h"
 #include "printer_session.h"
 #include "q7_impressora.h"
+#include "socket_system.h"
 
 #include <QString>
+#include <optional>
 #include <tuple>
 
 namespace q7
@@ -43,20 +45,20 @@ struct ExportName {
     LogText encoding = LogText::Utf8;
 };
 
-/** One export under way. When the outermost ends, the sends of all leave together. */
+/** One export under way. When the outermost ends, the sends of all leave together. While it runs,
+ *  the link is the calling thread's alone. */
 class SessionCall
 {
 public:
-    explicit SessionCall(PrinterSession& printerSession) : m_session(printerSession)
-    {
-        ++m_session.callDepth;
-    }
+    explicit SessionCall(PrinterSession& printerSession);
     ~SessionCall();
     SessionCall(const SessionCall&) = delete;
     SessionCall& operator=(const SessionCall&) = delete;
 
 private:
     PrinterSession& m_session;
+    LogCall m_log;
+    std::optional<BrokenPipeGuard> m_brokenPipe; // of the outermost
 };
 
 /** A text argument; a null pointer reads as empty text. */

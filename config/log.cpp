@@ -29,11 +29,28 @@ const char* tagOf(int kind)
     }
 }
 
+enum class Known { No, Off, On };
+
+// What the call under way found. As all of the library, for one thread at a time.
+Known knownState = Known::No;
+
 } // namespace
 
 bool logIsOn()
 {
-    return existsInDataFolder(logFileName);
+    return knownState == Known::No ? existsInDataFolder(logFileName) : knownState == Known::On;
+}
+
+LogCall::LogCall() : m_isOutermost(knownState == Known::No)
+{
+    if (m_isOutermost)
+        knownState = existsInDataFolder(logFileName) ? Known::On : Known::Off;
+}
+
+LogCall::~LogCall()
+{
+    if (m_isOutermost)
+        knownState = Known::No;
 }
 
 void writeLog(int kind, const char* message)
@@ -49,7 +66,7 @@ void writeLog(int kind, const char* message)
     QFile file(pathInDataFolder(logFileName));
     if (!file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::ExistingOnly |
                    QIODevice::Unbuffered)) {
-        if (logIsOn()) {
+        if (existsInDataFolder(logFileName)) {
             std::fputs("Erro ao abrir arquivo!\n", stdout);
             std::fflush(stdout);
         }

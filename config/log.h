@@ -12,8 +12,22 @@ enum class LogKind : int {
     Information = 3,
 };
 
-/** Whether the log is on at this moment. Callers that would compose a text for it ask first. */
+/** Whether the log is on. Callers that would compose a text for it ask first. */
 bool logIsOn();
+
+/** While one lives, whether the log is on is known from its beginning: the lines of one call ask
+ *  the file system once, not each. */
+class LogCall
+{
+public:
+    LogCall();
+    ~LogCall();
+    LogCall(const LogCall&) = delete;
+    LogCall& operator=(const LogCall&) = delete;
+
+private:
+    bool m_isOutermost;
+};
 
 /** Appends one line to the log; does nothing when the file does not exist, which is never created.
  *  kind: a LogKind, any other value is tagged as undefined. message: UTF-8, to its first zero byte;

@@ -29,14 +29,18 @@ QString registeredDataFolder()
 bool existsInDataFolder(const char* fileName)
 {
     const char* folder = registeredText();
-    struct stat status = {};
-    if (*folder == '\0' || ::stat(folder, &status) != 0 || !S_ISDIR(status.st_mode))
-        return ::access(fileName, F_OK) == 0;
-    std::string path(folder);
-    if (path.back() != '/' && path.back() != '\\')
-        path += '/';
-    path += fileName;
-    return ::access(path.c_str(), F_OK) == 0;
+    if (*folder != '\0') {
+        std::string path(folder);
+        if (path.back() != '/' && path.back() != '\\')
+            path += '/';
+        path += fileName;
+        if (::access(path.c_str(), F_OK) == 0)
+            return true;
+        struct stat status = {};
+        if (::stat(folder, &status) == 0 && S_ISDIR(status.st_mode))
+            return false;
+    }
+    return ::access(fileName, F_OK) == 0;
 }
 
 } // namespace q7

@@ -1,5 +1,6 @@
 #include "host_lookup.h"
 
+#include "library_hold.h"
 #include "socket_system.h"
 
 #include <chrono>

@@ -32,6 +32,13 @@ public:
      *  before a reply is awaited, so that the sends of one call leave together. */
     virtual void handOver() {}
 
+    /** A call begins: the link is the calling thread's. */
+    virtual void beginCall() {}
+
+    /** A call ends: what a slow printer has not taken yet goes on being handed over, so that the
+     *  tail of a receipt does not wait for the application's next call. */
+    virtual void endCall() {}
+
     /** Waits until a byte can be read. Over USB only reading itself can tell: true at once. */
     virtual bool waitReadable(int timeoutMs) = 0;
 

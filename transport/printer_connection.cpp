@@ -129,6 +129,18 @@ void PrinterConnection::handOver()
         m_link->handOver();
 }
 
+void PrinterConnection::beginCall()
+{
+    if (m_link)
+        m_link->beginCall();
+}
+
+void PrinterConnection::endCall()
+{
+    if (m_link)
+        m_link->endCall();
+}
+
 bool PrinterConnection::waitReadable()
 {
     return m_link && m_link->waitReadable(replyTimeoutMs);

@@ -43,6 +43,8 @@ public:
     int send(const QByteArray& bytes);
 
     void handOver();
+    void beginCall();
+    void endCall();
     bool waitReadable();
     void discardInput();
     QByteArray readReply(int timeoutMs, const ReplyIsWhole& isWhole);

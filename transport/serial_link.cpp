@@ -65,7 +65,10 @@ SerialLink::SerialLink(std::unique_ptr<QSerialPort> port)
 {
 }
 
-SerialLink::~SerialLink() = default;
+SerialLink::~SerialLink()
+{
+    stopBackground();
+}
 
 bool SerialLink::isOpen() const
 {

@@ -15,11 +15,8 @@ void shutDownSending(qintptr socketDescriptor);
  *  when there are none. Blocks for as long as the system's resolver does. */
 std::vector<QHostAddress> systemLookUp(const QByteArray& host);
 
-/** Keeps this library in memory until the process ends. */
-void keepLibraryLoaded();
-
 /** For its life, writing to a connection that the other side has reset raises no signal in this
- *  thread, whatever the host program has arranged. */
+ *  thread, whatever the host program has arranged. Links are used with one in force. */
 class BrokenPipeGuard
 {
 public:

@@ -2,7 +2,6 @@
 
 #include <csignal>
 #include <ctime>
-#include <dlfcn.h>
 #include <memory>
 #include <netdb.h>
 #include <sys/socket.h>
@@ -41,13 +40,6 @@ std::vector<QHostAddress> systemLookUp(const QByteArray& host)
     return addresses;
 }
 
-void keepLibraryLoaded()
-{
-    Dl_info self = {};
-    if (::dladdr(reinterpret_cast<const void*>(&keepLibraryLoaded), &self) != 0)
-        ::dlopen(self.dli_fname, RTLD_LAZY | RTLD_NODELETE | RTLD_NOLOAD);
-}
-
 BrokenPipeGuard::BrokenPipeGuard()
 {
     const sigset_t brokenPipe = brokenPipeSet();
@@ -61,11 +53,9 @@ BrokenPipeGuard::~BrokenPipeGuard()
     if (!m_blockedHere)
         return;
     const sigset_t brokenPipe = brokenPipeSet();
-    sigset_t pending;
-    if (sigpending(&pending) == 0 && sigismember(&pending, SIGPIPE) == 1) {
-        const timespec now = {};
-        sigtimedwait(&brokenPipe, nullptr, &now);
-    }
+    // Takes the signal, if one was raised, before it could be delivered.
+    const timespec now = {};
+    sigtimedwait(&brokenPipe, nullptr, &now);
     pthread_sigmask(SIG_UNBLOCK, &brokenPipe, nullptr);
 }
 

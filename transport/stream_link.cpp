@@ -1,6 +1,7 @@
 #include "stream_link.h"
 
 #include "q7_impressora.h"
+#include "socket_system.h"
 
 #include <algorithm>
 
@@ -42,6 +43,26 @@ void StreamLink::handOver()
     m_stalled = !moved;
 }
 
+void StreamLink::beginCall()
+{
+    m_backgroundHandOver.stop();
+}
+
+void StreamLink::endCall()
+{
+    handOver();
+    if (!isOpen() || m_device.bytesToWrite() == 0)
+        return;
+    constexpr std::chrono::milliseconds pause(10);
+    m_backgroundHandOver.start(
+        [this] {
+            const BrokenPipeGuard guard;
+            flushDevice();
+            return isOpen() && m_device.bytesToWrite() > 0;
+        },
+        pause);
+}
+
 // Returns whether bytes left. A wait that ends early without progress is a failing link.
 bool StreamLink::waitForProgress(int timeoutMs)
 {
@@ -68,7 +89,7 @@ void StreamLink::deliverAll()
 
 bool StreamLink::waitReadable(int timeoutMs)
 {
-    return m_device.bytesAvailable() > 0 || (isOpen() && m_device.waitForReadyRead(timeoutMs));
+    return isOpen() && (m_device.bytesAvailable() > 0 || m_device.waitForReadyRead(timeoutMs));
 }
 
 QByteArray StreamLink::takeWaiting()

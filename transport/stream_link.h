@@ -1,6 +1,7 @@
 // What serial and TCP links share: sends gathered by a buffered device, bounded reads.
 #pragma once
 
+#include "background_work.h"
 #include "link.h"
 
 #include <QElapsedTimer>
@@ -17,6 +18,8 @@ public:
 
     int send(const QByteArray& bytes) override;
     void handOver() override;
+    void beginCall() override;
+    void endCall() override;
     bool waitReadable(int timeoutMs) override;
     QByteArray readReply(QDeadlineTimer deadline, const ReplyIsWhole& isWhole) override;
     void discardInput() override;
@@ -29,6 +32,9 @@ protected:
      *  the link fails. */
     void deliverAll();
 
+    /** Stops what goes on between calls; for destructors, before the device goes. */
+    void stopBackground() { m_backgroundHandOver.stop(); }
+
 private:
     bool waitForProgress(int timeoutMs);
     QByteArray takeWaiting();
@@ -36,6 +42,8 @@ private:
     QIODevice& m_device;
     // Set while the printer takes nothing: a receipt's hundreds of calls must not wait each.
     bool m_stalled = false;
+    // Last, so that it ends before what it works on.
+    BackgroundWork m_backgroundHandOver;
 };
 
 /** Progress of something that shrinks: expires when it has not shrunk for the time given. */

@@ -105,17 +105,14 @@ TcpLink::TcpLink(std::unique_ptr<QTcpSocket> socket)
 {
 }
 
-TcpLink::~TcpLink() = default;
+TcpLink::~TcpLink()
+{
+    stopBackground();
+}
 
 bool TcpLink::isOpen() const
 {
     return m_socket && m_socket->state() == QAbstractSocket::ConnectedState;
-}
-
-void TcpLink::handOver()
-{
-    const BrokenPipeGuard guard;
-    StreamLink::handOver();
 }
 
 void TcpLink::flushDevice()
@@ -125,10 +122,8 @@ void TcpLink::flushDevice()
 
 int TcpLink::close()
 {
-    if (isOpen()) {
-        const BrokenPipeGuard guard;
+    if (isOpen())
         deliverAll();
-    }
     if (isOpen() && m_socket->bytesToWrite() == 0) {
         shutDownSending(m_socket->socketDescriptor());
         drain(*m_socket, farCloseLimitMs);

@@ -26,7 +26,6 @@ public:
     ~TcpLink() override;
 
     bool isOpen() const override;
-    void handOver() override;
     int close() override;
 
 protected:

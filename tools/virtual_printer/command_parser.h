@@ -1,0 +1,59 @@
+/** \file command_parser.h
+ *  Bytes in, commands out. Knows lengths and ranges, nothing of paper, links or files.
+ */
+#ifndef Q7_VIRTUAL_PRINTER_COMMAND_PARSER_H
+#define Q7_VIRTUAL_PRINTER_COMMAND_PARSER_H
+
+#include "command.h"
+
+#include <functional>
+#include <vector>
+
+namespace virtual_printer
+{
+
+/** Cuts a byte stream, handed over in pieces of any size, into commands. The commands do not depend
+ *  on where the pieces end. Whatever the bytes are, every one of them ends up in exactly one
+ *  command, and what is held back is bounded (kLongestCommand). */
+class CommandParser
+{
+public:
+    using Receiver = std::function<void(const Command&)>;
+
+    /** Commands announcing more bytes than this are malformed: what follows them is printed. */
+    static constexpr std::size_t kLongestCommand = 1024U * 1024U;
+    /** A run of text is handed on at the latest when it is this long. */
+    static constexpr std::size_t kLongestText = 4096;
+
+    enum class TildeQueries : bool { No, Yes };
+
+    /** tilde: whether ~HI is a query (TESMO) or three characters. */
+    explicit CommandParser(Receiver receiver, TildeQueries tilde = TildeQueries::No);
+
+    void feed(std::string_view bytes);
+    /** The stream has ended: hands on the last text, and what is left as a truncated command. */
+    void finish();
+
+private:
+    void takeCommands(bool ended);
+
+    Receiver receiver_;
+    TildeQueries tilde_;
+    std::string pending_;
+    std::uint64_t offset_ = 0;
+};
+
+/** All commands of a complete stream. */
+std::vector<Command> parseAll(std::string_view bytes);
+
+/** The command's name in the printer's manual ("ESC a"), and its effect ("alignment"). Empty for
+ *  text and for what is not a command. */
+struct CommandName {
+    std::string name;
+    std::string_view effect;
+};
+CommandName nameOf(const Command& command);
+
+} // namespace virtual_printer
+
+#endif

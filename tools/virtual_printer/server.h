@@ -1,0 +1,120 @@
+/** \file server.h
+ *  The printer's links: a TCP port, a pseudo-terminal as serial port, and how they misbehave.
+ */
+#ifndef Q7_VIRTUAL_PRINTER_SERVER_H
+#define Q7_VIRTUAL_PRINTER_SERVER_H
+
+#include "device.h"
+
+#include <atomic>
+#include <chrono>
+#include <functional>
+#include <list>
+#include <memory>
+#include <mutex>
+
+namespace virtual_printer
+{
+
+/** How a printer misbehaves; the defaults are good behaviour. */
+struct Behaviour {
+    bool silent = false;        /**< answers no query */
+    int lateMs = 0;             /**< answers that long after the query */
+    int byteGapMs = 0;          /**< time between two bytes of an answer */
+    int promptReplies = 0;      /**< so many answers per connection come as they should */
+    int unaskedStatusMs = 0;    /**< period of unasked status bytes; 0 for none */
+    int readBytesPerSecond = 0; /**< 0 for as fast as they come */
+
+    enum class Exit { Stay, Reset, Close };
+    Exit exit = Exit::Stay;           /**< how the printer vanishes */
+    std::uint64_t exitAfterBytes = 0; /**< received on a connection */
+};
+
+/** What becomes of the bytes of one connection. Called on the thread that runs the server. */
+class Job
+{
+public:
+    virtual ~Job() = default;
+    Job() = default;
+    Job(const Job&) = delete;
+    Job& operator=(const Job&) = delete;
+
+    virtual void received(std::string_view bytes) = 0;
+    virtual void command(const Command& command) = 0;
+    /** The connection is gone; every command has been handed over. */
+    virtual void ended() = 0;
+};
+
+struct ServerSettings {
+    Model model = *findModel("VANTA");
+    State state = {};
+    Behaviour behaviour = {};
+    bool tcp = true;
+    std::string address = "127.0.0.1"; /**< IPv4 address to listen on */
+    std::uint16_t port = 0;            /**< 0: any */
+    bool serial = false;               /**< serve a pseudo-terminal too */
+    std::string serialLink = {};       /**< symbolic link to the pseudo-terminal; empty for none */
+};
+
+/** Serves any number of connections at once, each a job of its own. */
+class Server
+{
+public:
+    using JobMaker = std::function<std::unique_ptr<Job>(int number)>;
+
+    /** Opens the links. maker: called with 1, 2, ... when a connection begins (on the serial line:
+     *  with its first byte). Throws std::system_error. */
+    Server(const ServerSettings& settings, JobMaker maker);
+    ~Server();
+    Server(const Server&) = delete;
+    Server& operator=(const Server&) = delete;
+
+    [[nodiscard]] std::uint16_t port() const { return port_; }
+    /** Path of the serial device; empty without one. */
+    [[nodiscard]] const std::string& serialPath() const { return serialPath_; }
+
+    /** Serves until stop(), or until so many jobs have ended (0: no such limit). */
+    void run(int jobs = 0);
+    /** Ends run(); may be called from any thread and from a signal handler. */
+    void stop();
+
+    void setState(const State& state);
+    void setBehaviour(const Behaviour& behaviour);
+
+private:
+    using Clock = std::chrono::steady_clock;
+    struct Connection;
+    enum class Reading { Open, Ended };
+
+    void listenOnTcp(const ServerSettings& settings);
+    void openSerial(const std::string& link);
+    void armSerial();
+    void acceptConnection();
+    Reading readFrom(Connection& connection);
+    void answer(Connection& connection, const Command& command);
+    void sendDue(Connection& connection);
+    void sendUnasked(Connection& connection);
+    void begin(Connection& connection);
+    void end(Connection& connection);
+    [[nodiscard]] Behaviour behaviour() const;
+    [[nodiscard]] State state() const;
+
+    JobMaker maker_;
+    Model model_;
+    mutable std::mutex mutex_;
+    State state_;
+    Behaviour behaviour_;
+    std::uint16_t port_ = 0;
+    std::string serialPath_;
+    std::string serialLink_;
+    int listener_ = -1;
+    int wakeRead_ = -1;
+    int wakeWrite_ = -1;
+    std::list<Connection> connections_;
+    int jobsBegun_ = 0;
+    int jobsEnded_ = 0;
+};
+
+} // namespace virtual_printer
+
+#endif

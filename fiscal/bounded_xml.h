@@ -1,0 +1,18 @@
+// XML text into a document tree, at a bounded cost whatever the text holds.
+#pragma once
+
+#include <QByteArray>
+#include <QDomDocument>
+
+namespace q7
+{
+
+/** The tree of text in the encoding that its prologue declares (UTF-8 when none), read as
+ *  QDomDocument::setContent reads it: without namespaces, white space alone dropped.
+ *  An empty document when the text does not parse, or when it goes beyond what a fiscal document
+ *  can need and Qt's reader would pay for with its caller's stack, memory or time: elements nested
+ *  deeper than 256, entities that expand to more than 64 KB in all (attribute values included),
+ *  more than 256 entities, content models in more than 256 parentheses. */
+QDomDocument readXml(const QByteArray& text);
+
+} // namespace q7

@@ -1,0 +1,135 @@
+// XML text that would cost its reader more than a fiscal document may.
+#include "bounded_xml.h"
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QThread>
+#include <gtest/gtest.h>
+#include <memory>
+
+namespace
+{
+
+constexpr int callerStackBytes = 1 << 20; // what Windows gives
+constexpr int blockChars = 4096;          // sixteen of them are the limit
+
+QByteArray times(const char* text, int count)
+{
+    return QByteArray(text).repeated(count);
+}
+QByteArray numbered(const char* pattern, int first, int last)
+{
+    QByteArray text;
+    for (int i = first; i <= last; ++i)
+        text += QByteArray(pattern)
+                    .replace("#-", QByteArray::number(i - 1))
+                    .replace("#", QByteArray::number(i));
+    return text;
+}
+QByteArray note(const QByteArray& doctype, const QByteArray& body)
+{
+    return "<!DOCTYPE r [" + doctype + "]><r><f>x</f>" + body + "</r>";
+}
+QByteArray block()
+{
+    return "<!ENTITY e '" + times("x", blockChars) + "'>";
+}
+
+long peakKilobytes()
+{
+    QFile status(QStringLiteral("/proc/self/status"));
+    status.open(QIODevice::ReadOnly);
+    const QByteArray text = status.readAll();
+    return text.mid(text.indexOf("VmHWM:") + 6).trimmed().split(' ').first().toLong();
+}
+
+struct Row {
+    const char* name;
+    QByteArray text;
+    bool isRead;
+};
+std::ostream& operator<<(std::ostream& out, const Row& row)
+{
+    return out << row.name;
+}
+
+class BoundedXml : public testing::TestWithParam<Row>
+{
+};
+
+TEST_P(BoundedXml, CostsLittleAndPrintsNothing)
+{
+    QFile resetPeak(QStringLiteral("/proc/self/clear_refs"));
+    resetPeak.open(QIODevice::WriteOnly | QIODevice::Unbuffered);
+    resetPeak.write("5");
+    const long before = peakKilobytes();
+    testing::internal::CaptureStderr();
+    QElapsedTimer timer;
+    timer.start();
+
+    QString field;
+    const std::unique_ptr<QThread> host(QThread::create([&field] {
+        field = q7::readXml(GetParam().text).namedItem("r").namedItem("f").toElement().text();
+    }));
+    host->setStackSize(callerStackBytes);
+    host->start();
+    host->wait();
+
+    EXPECT_EQ(field, GetParam().isRead ? "x" : "");
+    EXPECT_LT(timer.elapsed(), 1000);
+    EXPECT_LT(peakKilobytes() - before, 8 * 1024);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+}
+
+const Row rows[] = {
+    {"Empty", "", false},
+    {"Binary", numbered("\xff\x01#\xc3<\xfe", 1, 20000), false},
+    {"NotUtf8", note("", "\xc7\xe3"), true},
+    {"TwoFields", note("", "<f>y</f>"), true},
+    {"Unclosed", "<r><f>x</f>", false},
+    {"ElementsNestedToTheLimit", note("", times("<d>", 255) + times("</d>", 255)), true},
+    {"ElementsNestedBeyondIt", note("", times("<d>", 256) + times("</d>", 256)), false},
+    {"ElementsNestedDeep", "<r><f>x</f>" + times("<d>", 200000), false},
+    {"ParenthesesNestedDeep",
+     note("<!ELEMENT d " + times("(", 200000) + "d" + times(")", 200000) + ">", ""), false},
+    {"ParenthesesInParameterEntity",
+     note("<!ENTITY % p '<!ELEMENT d " + times("(", 60000) + "'> %p;", ""), false},
+    {"SmallEntities", note("<!ENTITY e 'um'><!ENTITY g '&e; dois'>", "&g;<d a='&e;'/>"), true},
+    {"EntityToTheLimit", note(block(), times("&e;", 16)), true},
+    {"EntityBeyondIt", note(block(), times("&e;", 16) + "<d a='&e;'/>"), false},
+    {"EntityManyTimes", note(block(), times("&e;", 300000)), false},
+    {"EntityManyTimesInAttribute", note(block(), "<d a='" + times("&e;", 300000) + "'/>"), false},
+    {"EntityManyTimesAsDefault",
+     note(block() + "<!ATTLIST d a CDATA '" + times("&e;", 300000) + "'>", ""), false},
+    {"EntitiesNested",
+     note("<!ENTITY e0 'lol'>" + numbered("<!ENTITY e# '&e#-;&e#-;&e#-;&e#-;'>", 1, 15), "&e15;"),
+     false},
+    {"EntitiesNestedDeclaredLater",
+     note(numbered("<!ENTITY e# '&e#-;&e#-;&e#-;&e#-;&e#-;'>", 1, 15) + "<!ENTITY e0 'lol'>",
+          "&e15;"),
+     false},
+    {"EntityWithinItself", note("<!ENTITY e '&g;'><!ENTITY g '&e;'>", "&e;"), false},
+    {"EmptyEntitiesNestedManyTimes",
+     note("<!ENTITY e0 ''>" + numbered("<!ENTITY e# '&e#-;'>", 1, 200), times("&e200;", 100000)),
+     false},
+    // The ampersand comes out of one entity, the name behind it stands in the text.
+    {"ReferencePutTogether", note("<!ENTITY a '&#38;'>" + block(), times("&a;e;", 300000)), false},
+    {"ParameterEntitiesNested",
+     note("<!ENTITY % p '" + times("x", 1000) + "'><!ENTITY % q '" + times("%p;", 1000) +
+              "'><!ENTITY e '" + times("%q;", 1000) + "'>",
+          "&e;"),
+     false},
+    {"ParameterEntityDeclaresAndUses",
+     note("<!ENTITY % p '<!ENTITY &#37; q \"" + times("x", 30000) + "\"> " +
+              times("&#37;q;", 10000) + "'> %p;",
+          ""),
+     false},
+    {"ManyEntities", note(numbered("<!ENTITY e# 'x'>", 1, 40000), ""), false},
+    {"ManyReferencesInOneEntity",
+     note("<!ENTITY e 'x'><!ENTITY g '" + times("&e;", 20000) + "'><!ENTITY h 'x'>", "&g;"), false},
+};
+
+INSTANTIATE_TEST_SUITE_P(Text, BoundedXml, testing::ValuesIn(rows),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+} // namespace

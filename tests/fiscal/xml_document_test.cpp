@@ -1,0 +1,85 @@
+// Fields of a fiscal document by path.
+#include "xml_document.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+using q7::FiscalXmlDocument;
+
+constexpr char authorised[] =
+    "<?xml version='1.0' encoding='UTF-8'?><nfeProc versao='4.00'><NFe><infNFe Id='NFe42' "
+    "versao='4.00'><ide><nNF>7</nNF><xNat>Caf\xc3\xa9 &amp; P\xc3\xa3o</xNat><serie/>"
+    "<tpEmis><!-- 1 -->1</tpEmis><qr><![CDATA[a&b]]></qr></ide>"
+    "<det nItem='1'><prod><cProd>A</cProd></prod></det><det nItem='2'><prod/></det>"
+    "<grp><det nItem='3'/></grp></infNFe></NFe></nfeProc>";
+
+TEST(FiscalXmlDocument, AnswersByPath)
+{
+    const FiscalXmlDocument document(authorised);
+    const struct {
+        const char* path;
+        const char* text;
+    } rows[] = {
+        {"nfeProc|NFe|infNFe|ide|nNF", "7"},
+        {"nfeProc|NFe|infNFe|ide|xNat", "Caf\xc3\xa9 & P\xc3\xa3o"},
+        {"nfeProc|NFe|infNFe|ide|qr", "a&b"},
+        {"nfeProc|NFe|infNFe|ide|serie", ""},
+        {"nfeProc|NFe|infNFe|ide|tpEmis", ""}, // begins with a comment
+        {"nfeProc|NFe|infNFe|ide", ""},
+        {"nfeProc|NFe|infNFe|ide|nnf", ""},
+        {"nfeProc|protNFe|infProt|nProt", ""},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(document.textAt(row.path), QString::fromUtf8(row.text)) << row.path;
+    EXPECT_EQ(document.attributeAt("nfeProc|NFe|infNFe|Id"), "NFe42");
+    EXPECT_TRUE(document.attributeAt("nfeProc|NFe|infNFe|id").isNull());
+    EXPECT_TRUE(document.attributeAt("nfeProc|NFe|infCte|Id").isNull());
+
+    const QDomNodeList items = document.listAt("nfeProc|NFe|infNFe|det");
+    ASSERT_EQ(items.length(), 3);
+    for (int i = 0; i < 3; ++i)
+        EXPECT_EQ(items.item(i).toElement().attribute("nItem"), QString::number(i + 1));
+    EXPECT_EQ(q7::textOf(items.item(0).namedItem("prod").namedItem("cProd")), "A");
+    EXPECT_TRUE(q7::textOf(items.item(1).namedItem("prod").namedItem("cProd")).isNull());
+    EXPECT_EQ(document.listAt("nfeProc|NFe|infCte|det").length(), 0);
+}
+
+TEST(FiscalXmlDocument, FirstPartIsOptionalInTheDocument)
+{
+    const FiscalXmlDocument bare("<!DOCTYPE NFe><NFe><infNFe versao='4.00'><ide><nNF>7</nNF></ide>"
+                                 "</infNFe></NFe>");
+    EXPECT_EQ(bare.textAt("nfeProc|NFe|infNFe|ide|nNF"), "7");
+    EXPECT_EQ(bare.attributeAt("nfeProc|NFe|infNFe|versao"), "4.00");
+    EXPECT_EQ(bare.textAt("nfeProc|protNFe|infProt|nProt"), "");
+    EXPECT_TRUE(bare.hasElementAt("NFe|infNFe"));
+    EXPECT_FALSE(bare.hasElementAt("CFeCanc|infCFe"));
+}
+
+TEST(FiscalXmlDocument, HonoursTheDeclaredEncoding)
+{
+    EXPECT_EQ(
+        FiscalXmlDocument("<?xml version='1.0' encoding='ISO-8859-1'?><a><b><c>\xe7</c></b></a>")
+            .textAt("a|b|c"),
+        QString(QChar(0xe7)));
+}
+
+TEST(FiscalXmlDocument, ExpandsEntities)
+{
+    const FiscalXmlDocument document("<!DOCTYPE a [<!ENTITY e 'um'><!ENTITY g '&e; dois'>]>"
+                                     "<a><b d='&e;&#33;'><c>&g;, &e;</c></b></a>");
+    EXPECT_EQ(document.textAt("a|b|c"), "um dois, um");
+    EXPECT_EQ(document.attributeAt("a|b|d"), "um!");
+}
+
+TEST(FiscalXmlDocument, TextCutOffAnywhereLeavesNothing)
+{
+    const QByteArray whole(authorised);
+    for (int size = 0; size < whole.size(); ++size)
+        ASSERT_EQ(FiscalXmlDocument(whole.left(size)).textAt("nfeProc|NFe|infNFe|ide|nNF"), "")
+            << size;
+    EXPECT_EQ(FiscalXmlDocument(nullptr).listAt("nfeProc|NFe|infNFe|det").length(), 0);
+}
+
+} // namespace

@@ -5,7 +5,6 @@
 #include "printer_models.h"
 #include "q7_impressora.h"
 #include "serial_link.h"
-#include "serial_system.h"
 #include "tcp_link.h"
 #include "usb_link.h"
 
@@ -59,12 +58,9 @@ int PrinterConnection::open(const QString& address, const QString& model, int nu
     }
 }
 
-int PrinterConnection::openSerial(const QString& portName, const QString& model, int bitsPerSecond)
+int PrinterConnection::openSerial(const QString& address, const QString& model, int bitsPerSecond)
 {
-    const QString port = resolveSerialPortName(portName);
-    if (port.isEmpty())
-        return Q7_ERR_SERIAL_NOT_FOUND;
-    SerialLink::Opened opened = SerialLink::open(port, bitsPerSecond);
+    SerialOpened opened = openSerialLink(address, bitsPerSecond);
     if (!opened.link)
         return opened.result;
     return keepIfModelAnswers(std::move(opened.link), model);

@@ -53,7 +53,7 @@ public:
     int close();
 
 private:
-    int openSerial(const QString& portName, const QString& model, int bitsPerSecond);
+    int openSerial(const QString& address, const QString& model, int bitsPerSecond);
     int openNetwork(const QString& host, const QString& model, int port);
     int openUsb(const QString& model);
     int keepIfModelAnswers(std::unique_ptr<Link> link, const QString& model);

@@ -2,8 +2,10 @@
 
 #include "q7_impressora.h"
 #include "serial_system.h"
+#include "stream_link.h"
 #include "thread_free.h"
 
+#include <QSerialPort>
 #include <QThread>
 
 namespace q7
@@ -33,10 +35,44 @@ int codeOf(QSerialPort::SerialPortError error)
     }
 }
 
+class SerialLink : public StreamLink
+{
+public:
+    explicit SerialLink(std::unique_ptr<QSerialPort> port)
+        : StreamLink(*port), m_port(std::move(port))
+    {
+    }
+    ~SerialLink() override { stopBackground(); }
+    SerialLink(const SerialLink&) = delete;
+    SerialLink& operator=(const SerialLink&) = delete;
+
+    bool isOpen() const override { return m_port->isOpen(); }
+
+    int close() override
+    {
+        if (m_port->isOpen()) {
+            deliverAll();
+            waitUntilDrained(*m_port);
+            m_port->flush();
+            m_port->close();
+        }
+        return m_port->isOpen() ? Q7_ERR_FAILED : Q7_OK;
+    }
+
+protected:
+    void flushDevice() override { m_port->flush(); }
+
+private:
+    std::unique_ptr<QSerialPort> m_port;
+};
+
 } // namespace
 
-SerialLink::Opened SerialLink::open(const QString& portName, int bitsPerSecond)
+SerialOpened openSerialLink(const QString& address, int bitsPerSecond)
 {
+    const QString portName = resolveSerialPortName(address);
+    if (portName.isEmpty())
+        return {nullptr, Q7_ERR_SERIAL_NOT_FOUND};
     auto port = std::unique_ptr<QSerialPort>();
     int result = Q7_OK;
     // A serial port makes its notifiers when it opens and when it first writes, and complains where
@@ -58,37 +94,6 @@ SerialLink::Opened SerialLink::open(const QString& portName, int bitsPerSecond)
     if (result != Q7_OK)
         return {nullptr, result};
     return {std::make_unique<SerialLink>(std::move(port)), Q7_OK};
-}
-
-SerialLink::SerialLink(std::unique_ptr<QSerialPort> port)
-    : StreamLink(*port), m_port(std::move(port))
-{
-}
-
-SerialLink::~SerialLink()
-{
-    stopBackground();
-}
-
-bool SerialLink::isOpen() const
-{
-    return m_port->isOpen();
-}
-
-void SerialLink::flushDevice()
-{
-    m_port->flush();
-}
-
-int SerialLink::close()
-{
-    if (m_port->isOpen()) {
-        deliverAll();
-        waitUntilDrained(*m_port);
-        m_port->flush();
-        m_port->close();
-    }
-    return m_port->isOpen() ? Q7_ERR_FAILED : Q7_OK;
 }
 
 } // namespace q7

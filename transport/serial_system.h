@@ -1,8 +1,9 @@
 // The system's side of serial ports.
 #pragma once
 
-#include <QSerialPort>
 #include <QString>
+
+class QSerialPort;
 
 namespace q7
 {

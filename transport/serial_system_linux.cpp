@@ -3,7 +3,7 @@
 #include "stream_link.h"
 
 #include <QDir>
-#include <QFile>
+#include <QSerialPort>
 #include <QThread>
 #include <sys/ioctl.h>
 

@@ -1,6 +1,7 @@
 // The frame that every export runs in: log the call, test the link, run, log the result.
 #pragma once
 
+#include "foreign_thread.h"
 #include "log.h"
 #include "printer_session.h"
 #include "q7_impressora.h"
@@ -100,10 +101,12 @@ void logCall(const ExportName& name, const std::tuple<Arguments...>& arguments)
 
 void logReturn(const ExportName& name, int result);
 
-/** Runs what no exception may leave: everything that is called from outside. */
+/** Runs everything that is called from outside: no exception leaves it, and no trace of the calling
+ *  thread stays. */
 template <typename Result, typename Body> Result guarded(Result onException, Body&& body) noexcept
 {
     try {
+        const ForeignThread thread;
         return body();
     } catch (...) {
         return onException;

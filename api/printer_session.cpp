@@ -1,5 +1,6 @@
 #include "printer_session.h"
 
+#include "foreign_thread.h"
 #include "log.h"
 #include "version.h"
 
@@ -9,7 +10,10 @@ namespace
 {
 
 // Never destroyed: an open connection is closed by FechaConexaoImpressora alone.
-PrinterSession& theSession = *new PrinterSession;
+PrinterSession& theSession = []() -> PrinterSession& {
+    const ForeignThread thread;
+    return *new PrinterSession;
+}();
 
 } // namespace
 

@@ -2,6 +2,7 @@
 
 #include "commands.h"
 #include "export_frame.h"
+#include "printer_status.h"
 
 #include <cstring>
 
@@ -9,22 +10,6 @@ using namespace q7;
 
 namespace
 {
-
-/** What StatusImpressora can ask for; each has its own real-time request. */
-enum StatusKind : int { DrawerStatus = 1, CoverStatus, PaperStatus, SensorStatus, CombinedStatus };
-
-/** The states of the single queries. */
-enum State : int {
-    DrawerLow = 1,
-    DrawerHigh,
-    CoverOpen,
-    CoverClosed,
-    PaperPresent,
-    PaperNearEnd,
-    PaperOut,
-    SensorClear,
-    SensorSignalled,
-};
 
 constexpr int directIoTimeoutMs = 500;
 
@@ -96,19 +81,19 @@ int queryCombinedState(PrinterSession& printerSession)
             return state;
         switch (state) {
         case DrawerLow:
-            sum += 1;
+            sum += DrawerLowBit;
             break;
         case CoverOpen:
-            sum += 2;
+            sum += CoverOpenBit;
             break;
         case PaperNearEnd:
-            sum += 4;
+            sum += PaperNearEndBit;
             break;
         case PaperOut:
-            sum += 4 + 8;
+            sum += PaperNearEndBit + PaperOutBit;
             break;
         case SensorSignalled:
-            sum += 16;
+            sum += SensorSignalledBit;
             break;
         default:
             break;

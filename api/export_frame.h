@@ -105,8 +105,8 @@ void logReturn(const ExportName& name, int result);
  *  thread stays. */
 template <typename Result, typename Body> Result guarded(Result onException, Body&& body) noexcept
 {
+    const ForeignThread thread;
     try {
-        const ForeignThread thread;
         return body();
     } catch (...) {
         return onException;

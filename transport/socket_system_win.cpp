@@ -1,0 +1,67 @@
+#include "socket_system.h"
+
+#include <winsock2.h>
+#include <ws2tcpip.h>
+
+#include <memory>
+
+namespace q7
+{
+namespace
+{
+
+/** Winsock serves a process from its first start-up call to its last clean-up call. */
+class Winsock
+{
+public:
+    Winsock()
+    {
+        WSADATA data;
+        m_started = ::WSAStartup(MAKEWORD(2, 2), &data) == 0;
+    }
+    ~Winsock()
+    {
+        if (m_started)
+            ::WSACleanup();
+    }
+    Winsock(const Winsock&) = delete;
+    Winsock& operator=(const Winsock&) = delete;
+
+private:
+    bool m_started;
+};
+
+} // namespace
+
+void shutDownSending(qintptr socketDescriptor)
+{
+    ::shutdown(static_cast<SOCKET>(socketDescriptor), SD_SEND);
+}
+
+std::vector<QHostAddress> systemLookUp(const QByteArray& host)
+{
+    const Winsock winsock;
+    addrinfo hints = {};
+    hints.ai_socktype = SOCK_STREAM;
+    addrinfo* found = nullptr;
+    if (::getaddrinfo(host.constData(), nullptr, &hints, &found) != 0)
+        return {};
+    const std::unique_ptr<addrinfo, decltype(&::freeaddrinfo)> owner(found, ::freeaddrinfo);
+    std::vector<QHostAddress> addresses;
+    for (const addrinfo* entry = found; entry != nullptr; entry = entry->ai_next)
+        addresses.emplace_back(entry->ai_addr);
+    return addresses;
+}
+
+void keepLibraryLoaded()
+{
+    HMODULE self = nullptr;
+    ::GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_PIN,
+                         reinterpret_cast<const wchar_t*>(&keepLibraryLoaded), &self);
+}
+
+// A broken connection raises no signal here.
+BrokenPipeGuard::BrokenPipeGuard() = default;
+BrokenPipeGuard::~BrokenPipeGuard() = default;
+
+} // namespace q7

@@ -1,0 +1,35 @@
+// What fiscal receipts have in common: lines set to the receipt's width, and printing them.
+#pragma once
+
+#include <QString>
+
+namespace q7
+{
+
+/** Arguments of ImpressaoTexto. */
+enum TextAlignment : int { AlignLeft = 0, AlignCentre = 1 };
+enum TextStyle : int { NormalFont = 0, SmallFont = 1, Emphasised = 8, SmallEmphasised = 9 };
+
+// Printing goes through the exports, as an application's calls: they log each text and their
+// results are not looked at.
+
+void print(const QString& text, TextAlignment alignment, TextStyle style);
+
+/** ESC/POS: LF. lines: from 1. */
+void feed(int lines);
+
+/** Prints and feeds. */
+void printLine(const QString& text, TextAlignment alignment, TextStyle style, int feedLines = 1);
+
+/** Prints "-" across columns; nothing but the text's settings when columns is below 1. No line feed
+ *  follows: the line fills the paper. */
+void printSeparator(int columns);
+
+/** A label at the left and a value at the right margin of a line of columns; one directly behind the
+ *  other when there is no room. */
+QString labelAndValue(const QString& label, const QString& value, int columns);
+
+/** A blank before every group of four characters after the first: "1234 5678 9". */
+QString groupsOfFour(const QString& key);
+
+} // namespace q7

@@ -1,0 +1,45 @@
+// The library as an application uses it, with a printer at the far end.
+#pragma once
+
+#include "bytes.h"
+#include "data_folder.h"
+#include "fake_printer.h"
+#include "q7_impressora.h"
+
+#include <gtest/gtest.h>
+#include <memory>
+
+namespace q7test
+{
+
+/** What a call leaves in the log. "> 1B 61" or "> "text"" is a send, in the form of golden files;
+ *  any other line is one of the calls. */
+using Transcript = std::vector<std::string>;
+
+/** The transcript as DataFolder::takeLog() gives it. */
+std::vector<std::string> logOf(const Transcript& transcript);
+
+/** The bytes that a transcript sends. */
+std::string bytesOf(const Transcript& transcript);
+
+class ExportTest : public testing::Test
+{
+protected:
+    ~ExportTest() override { FechaConexaoImpressora(); }
+
+    /** Opens a connection to a new printer, behind which the log and the bytes begin anew. */
+    void openTcp(const PrinterScript& script = {});
+    void openSerial(const PrinterScript& script = {});
+
+    /** The bytes that the printer received since the last call. Sends a mark behind them. */
+    std::string takeSent();
+
+    DataFolder data;
+    std::unique_ptr<TcpPrinter> tcp;
+    std::unique_ptr<PtyPrinter> serial;
+
+private:
+    std::size_t m_taken = 0;
+};
+
+} // namespace q7test

@@ -21,9 +21,9 @@ SessionCall::~SessionCall()
     });
 }
 
-void logExportLine(const ExportName& name, const char* what, const QString& text)
+void logExportLine(const ExportName& name, const char* label, const QString& text)
 {
-    const QString line = QString::fromUtf8(name.text) + what + text;
+    const QString line = QString::fromUtf8(name.text) + label + text;
     const QByteArray bytes = name.encoding == LogText::Latin1 ? line.toLatin1() : line.toUtf8();
     writeLog(static_cast<int>(LogKind::Function), bytes.constData());
 }
@@ -31,7 +31,7 @@ void logExportLine(const ExportName& name, const char* what, const QString& text
 void logReturn(const ExportName& name, int result)
 {
     if (logIsOn())
-        logExportLine(name, ". RETORNO:", QString::number(result));
+        logExportLine(name, name.returnLabel, QString::number(result));
 }
 
 } // namespace q7

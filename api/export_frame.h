@@ -44,6 +44,8 @@ enum class LogText { Utf8, Latin1 };
 struct ExportName {
     const char* text;
     LogText encoding = LogText::Utf8;
+    const char* callLabel = ". PARAMETROS:";
+    const char* returnLabel = ". RETORNO:";
 };
 
 /** One export under way. When the outermost ends, the sends of all leave together. While it runs,
@@ -68,7 +70,7 @@ constexpr const char* textOrEmpty(const char* text)
     return text == nullptr ? "" : text;
 }
 
-void logExportLine(const ExportName& name, const char* what, const QString& text);
+void logExportLine(const ExportName& name, const char* label, const QString& text);
 
 inline QString logForm(int argument)
 {
@@ -96,7 +98,7 @@ void logCall(const ExportName& name, const std::tuple<Arguments...>& arguments)
             ((text += (first ? QString() : QString(',')) + logForm(argument), first = false), ...);
         },
         arguments);
-    logExportLine(name, ". PARAMETROS:", text);
+    logExportLine(name, name.callLabel, text);
 }
 
 void logReturn(const ExportName& name, int result);
@@ -111,6 +113,18 @@ template <typename Result, typename Body> Result guarded(Result onException, Bod
     } catch (...) {
         return onException;
     }
+}
+
+/** The guard of the English and the Prt family. Without an open link it answers Q7_ERR_NOT_OPEN and
+ *  does nothing, nor is a line logged; else it runs the operation, whose sends leave together. */
+template <typename Operation, typename... Arguments>
+int whenOpen(Operation&& operation, Arguments... arguments) noexcept
+{
+    return guarded(int{Q7_ERR_FAILED}, [&] {
+        PrinterSession& printerSession = session();
+        const SessionCall call(printerSession);
+        return printerSession.isOpen() ? operation(arguments...) : int{Q7_ERR_NOT_OPEN};
+    });
 }
 
 /** The frame without the step that forgets the last result.

@@ -64,6 +64,7 @@ inline const QByteArray CMD_DIRECTION_3 = commandBytes("\x1B\x54\x03");     // E
 inline const QByteArray CMD_VERTICAL_POSITION = commandBytes("\x1D\x24");   // GS $
 inline const QByteArray CMD_HORIZONTAL_POSITION = commandBytes("\x1B\x24"); // ESC $
 inline const QByteArray CMD_CANCEL = commandBytes("\x18");                  // CAN
+inline const QByteArray CMD_ESC = commandBytes("\x1B");                     // ESC alone
 inline const QByteArray CMD_PRINT_AREA = commandBytes("\x1B\x57");          // ESC W
 inline const QByteArray CMD_PRINTER_ID = commandBytes("\x1D\x49");          // GS I
 

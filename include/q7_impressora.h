@@ -24,6 +24,13 @@
  *   7. Effect. Bytes leave when the call returns. FechaConexaoImpressora waits until what was
  *      accepted has been handed over, within a bound; ending the process without it may lose a tail.
  *
+ *  Families. The Portuguese functions come first. The English ones, and the Prt ones behind them,
+ *  are there for programs written for two other interfaces: thin layers over the Portuguese
+ *  functions and the same session, to be mixed with them at will. Their first argument is a handle
+ *  that is ignored: pass anything. "Guarded" means: while no connection is open the function
+ *  returns -4 and does nothing at all, no line in the log either. Where no results are listed they
+ *  are those of the function named.
+ *
  *  Files. The data folder is the registry value "data_path" under HKEY_LOCAL_MACHINE\\SOFTWARE\\Q7,
  *  64-bit view (on Linux the environment variable Q7_DATA_PATH), else the working folder. A file
  *  "log_q7.txt" that exists there receives every call and every byte sent. It then holds the CSC
@@ -58,7 +65,7 @@
 extern "C" {
 #endif
 
-/** Result codes. Every function returns an int; these are its negative values. */
+/** Result codes: the negative values of the functions that return an int. */
 enum Q7Result {
     Q7_OK = 0,
     Q7_ERR_KIND = -2,              /**< connection kind not 1, 2 or 3 */
@@ -333,6 +340,238 @@ Q7_API int Q7_CALL ImprimeXMLCancelamentoSAT(const char* dados, const char* assi
  *  no urlChave.
  *  Example: ImprimeXMLNFCe(xml, 1, "0123456789", 0x40); */
 Q7_API int Q7_CALL ImprimeXMLNFCe(const char* dados, int indexcsc, const char* csc, int param);
+
+/* ------------------------------------------------------------------ English family: port */
+
+/** Stores the model name with which PortOpen and PrtPortOpen open; see AbreConexaoImpressora.
+ *  Returns 0.
+ *  Example: PrinterCreator(0, "VANTA"); */
+Q7_API int Q7_CALL PrinterCreator(void* handle, const char* model);
+
+/** PrinterCreator without a result. */
+Q7_API void Q7_CALL PrinterCreatorS(void* handle, const char* model);
+
+/** Guarded; returns 0. Releases nothing: the port stays open. */
+Q7_API int Q7_CALL PrinterDestroy(void* handle);
+
+/** Opens the connection: AbreConexaoImpressora with the model of PrinterCreator.
+ *  text: fields apart by "," or "_"; a "_" inside a host name or path separates too. The first
+ *    field contains, in any letter case, one of
+ *    "COM": the first field is the serial port, the second the bits per second: "COM3,9600";
+ *    "NET": the second is the host, the third the TCP port, 9100 where it is missing or empty:
+ *      "NET,192.168.0.10,9100";
+ *    "USB": needs no further fields.
+ *  Returns -2 for any other text ("COM3" or "NET" alone too), else as AbreConexaoImpressora: -11
+ *  for a missing speed, 0 also for a refused TCP connection.
+ *  Example: PrinterCreator(0, "VANTA"); PortOpen(0, "USB"); */
+Q7_API int Q7_CALL PortOpen(void* handle, const char* text);
+
+/** Guarded FechaConexaoImpressora. */
+Q7_API int Q7_CALL PortClose(void* handle);
+
+/** Guarded InicializaImpressora. */
+Q7_API int Q7_CALL PrinterInitialize(void* handle);
+
+/* ------------------------------------------------------------------ English family: text */
+
+/** Guarded ImpressaoTexto; logged under both names. alignment, style, size: posicao, stilo and
+ *  tamanho. Returns the count of bytes of the text written, or a code. */
+Q7_API int Q7_CALL PrintText(void* handle, const char* text, int alignment, int style, int size);
+
+/** Sends the bytes of a text as they are: they are not converted to Latin-1, and no code table is
+ *  chosen. Guarded, but logged first.
+ *  Returns the count of bytes written; -4; -44 nothing written, as for an empty text.
+ *  Example: PrintTextS(0, "TOTAL 10,00\n"); */
+Q7_API int Q7_CALL PrintTextS(void* handle, const char* text);
+
+/** Sets the alignment. Guarded. alignment: 1 centre, 2 right. 0, left, is accepted but sends
+ *  nothing: the printer stays as it is. To go back to the left call DefinePosicao(0).
+ *  Returns 1; -4; -41 alignment out of 0..2; -44 nothing written, always so for 0.
+ *  ESC/POS: ESC a n.
+ *  Example: SetAlign(0, 1); */
+Q7_API int Q7_CALL SetAlign(void* handle, int alignment);
+
+/** Switches emphasis. Guarded, but logged first. on: 0 or 1.
+ *  Returns 0, also when nothing was written; -4; -42 any other value.
+ *  ESC/POS: ESC E n.
+ *  Example: SetTextBold(0, 1); */
+Q7_API int Q7_CALL SetTextBold(void* handle, int on);
+
+/** Chooses the font; ends underline, which the same command sets. Guarded, but logged first.
+ *  font: 0 normal, 1 small.
+ *  Returns 0, also when nothing was written; -4; -42 any other value.
+ *  ESC/POS: ESC ! n.
+ *  Example: SetTextFont(0, 1); */
+Q7_API int Q7_CALL SetTextFont(void* handle, int font);
+
+/** The same function as EspacamentoEntreLinhas, and logged as it. Takes no handle. */
+Q7_API int Q7_CALL SetTextLineSpace(int spacing);
+
+/* ------------------------------------------------------------------ English family: symbols */
+
+/** Guarded ImpressaoCodigoBarras. type: 0..8 as there, or 65..73 for the same. width: largura.
+ *  height: altura. */
+Q7_API int Q7_CALL PrintBarCode(void* handle, int type, const char* data, int width, int height,
+                                int hri);
+
+/** ImpressaoQRCode. type: ignored. errorLevel: nivelCorrecao, 1..4. size: tamanho, 1..6. */
+Q7_API int Q7_CALL PrintSymbol(void* handle, int type, const char* data, int errorLevel, int size);
+
+/** Always fails and never prints: ImprimeImagemMemoria with the key k1 k2 and the scale 0, which is
+ *  none. Programs of this interface may call it; to print a stored graphic call
+ *  ImprimeImagemMemoria.
+ *  k1, k2: the key's characters, of which the low byte counts.
+ *  Returns -4; -131 when one is not 0x20..0x7E; else -132. */
+Q7_API int Q7_CALL PrintNVImage(void* handle, int k1, int k2);
+
+/** Does nothing and returns 0: graphics are stored with the printer maker's own tool. */
+Q7_API int Q7_CALL DefineNVImage(int a, int b, int c, int d);
+
+/* ------------------------------------------------------------------ English family: paper */
+
+/** Guarded AvancaPapel. */
+Q7_API int Q7_CALL FeedLine(void* handle, int lines);
+
+/** Guarded Corte. lines: to feed first. */
+Q7_API int Q7_CALL CutPaper(void* handle, int lines);
+
+/** Guarded AbreGaveta. pin: 0 or 1. onTime, offTime: units of 2 ms, 0..255. */
+Q7_API int Q7_CALL OpenDrawer(void* handle, int pin, int onTime, int offTime);
+
+/** OpenDrawer. */
+Q7_API int Q7_CALL OpenCashDrawer(void* handle, int pin, int onTime, int offTime);
+
+/* ------------------------------------------------------------------ English family: state */
+
+/** Asks for the printer's state (StatusImpressora, query 5). Guarded.
+ *  state: receives 0 ready, 1 paper out, 2 cover open, 4 paper near end, 5 cover open and paper
+ *    out, 6 cover open and paper near end; may be null.
+ *  Returns 0; -4; -126 for any other answer or none, state then unchanged: over USB and serial
+ *  ports so also whenever the drawer's signal is low.
+ *  Example: int state = 0; if (GetPrinterState(0, &state) == 0 && state == 1) puts("sem papel"); */
+Q7_API int Q7_CALL GetPrinterState(void* handle, int* state);
+
+/** Asks for the drawer's signal (StatusImpressora, query 1). Guarded.
+ *  state: receives 1 or 0; may be null. Unchanged when the printer told nothing and over TCP, where
+ *    the drawer cannot be asked for. polarity: not 0, 1 means signal low; 0, 1 means signal high.
+ *  Returns 0, also when state is unchanged; -4.
+ *  Example: int state = -1; GetDrawerState(0, &state, 1); */
+Q7_API int Q7_CALL GetDrawerState(void* handle, int* state, int polarity);
+
+/** GetDrawerState. */
+Q7_API int Q7_CALL GetCashDrawerState(void* handle, int* state, int polarity);
+
+/* ------------------------------------------------------------------ English family: page mode */
+
+/** Guarded ModoPagina. */
+Q7_API int Q7_CALL SelectPageMode(void* handle);
+
+/** PrtSelectStandardMode. */
+Q7_API int Q7_CALL SelectStandardMode(void* handle);
+
+/** Guarded DirecaoImpressao. */
+Q7_API int Q7_CALL SelectPrintDirectionInPageMode(void* handle, int direction);
+
+/** Guarded DefineAreaImpressao. */
+Q7_API int Q7_CALL SetPrintAreaInPageMode(void* handle, int x, int y, int width, int height);
+
+/** Guarded PosicaoImpressaoHorizontal. */
+Q7_API int Q7_CALL SetAbSolutePrintPosition(void* handle, int position);
+
+/** Guarded PosicaoImpressaoVertical. */
+Q7_API int Q7_CALL SetAbsoluteVerticalPrintPositionInPageMode(void* handle, int position);
+
+/** Guarded ImprimeModoPagina. */
+Q7_API int Q7_CALL PrintDataInPageMode(void* handle);
+
+/** Guarded LimpaBufferModoPagina. */
+Q7_API int Q7_CALL CancelPrintDataInPageMode(void* handle);
+
+/** Guarded ImprimeMPeRetornaPadrao. */
+Q7_API int Q7_CALL SetPrintAndReturnStandardMode(void* handle);
+
+/* ------------------------------------------------------------------ Prt family */
+
+/** PrinterCreator; both store the same name. */
+Q7_API int Q7_CALL PrtPrinterCreator(void* handle, const char* model);
+
+/** PrinterDestroy. */
+Q7_API int Q7_CALL PrtPrinterDestroy(void* handle);
+
+/** PortOpen. */
+Q7_API int Q7_CALL PrtPortOpen(void* handle, const char* text);
+
+/** FechaConexaoImpressora, not guarded: called while nothing is open it is logged, too. */
+Q7_API int Q7_CALL PrtPortClose(void* handle);
+
+/** Guarded InicializaImpressora. */
+Q7_API int Q7_CALL PrtPrinterInitialize(void* handle);
+
+/** PrintText. */
+Q7_API int Q7_CALL PrtPrintText(void* handle, const char* text, int alignment, int style, int size);
+
+/** SetAlign. */
+Q7_API int Q7_CALL PrtSetTextPosition(void* handle, int alignment);
+
+/** SetTextBold. */
+Q7_API int Q7_CALL PrtSetTextBold(void* handle, int on);
+
+/** SetTextFont. */
+Q7_API int Q7_CALL PrtSetTextFont(void* handle, int font);
+
+/** PrintBarCode. */
+Q7_API int Q7_CALL PrtPrintBarCode(void* handle, int type, const char* data, int width, int height,
+                                   int hri);
+
+/** PrintSymbol. */
+Q7_API int Q7_CALL PrtPrintSymbol(void* handle, int type, const char* data, int errorLevel,
+                                  int size);
+
+/** FeedLine. */
+Q7_API int Q7_CALL PrtFeedLine(void* handle, int lines);
+
+/** Guarded Corte. lines: to feed first. */
+Q7_API int Q7_CALL PrtCutPaper(void* handle, int lines);
+
+/** OpenDrawer. */
+Q7_API int Q7_CALL PrtOpenDrawer(void* handle, int pin, int onTime, int offTime);
+
+/** GetPrinterState. */
+Q7_API int Q7_CALL PrtCheckPrinterState(void* handle, int* state);
+
+/** GetDrawerState. */
+Q7_API int Q7_CALL PrtGetDrawerState(void* handle, int* state, int polarity);
+
+/** SelectPageMode. */
+Q7_API int Q7_CALL PrtSelectPageMode(void* handle);
+
+/** Returns to standard mode; an unprinted page is lost. Guarded; not logged by name.
+ *  Returns 0, also when nothing was written; -4.
+ *  ESC/POS: ESC S.
+ *  Example: PrtSelectStandardMode(0); */
+Q7_API int Q7_CALL PrtSelectStandardMode(void* handle);
+
+/** SelectPrintDirectionInPageMode. */
+Q7_API int Q7_CALL PrtSelectPrintDirectionInPageMode(void* handle, int direction);
+
+/** SetPrintAreaInPageMode. */
+Q7_API int Q7_CALL PrtSetPrintAreaInPageMode(void* handle, int x, int y, int width, int height);
+
+/** SetAbsoluteVerticalPrintPositionInPageMode. */
+Q7_API int Q7_CALL PrtSetAbsoluteVerticalPrintPositionInPageMode(void* handle, int position);
+
+/** PrintDataInPageMode. */
+Q7_API int Q7_CALL PrtPrintDataInPageMode(void* handle);
+
+/** Sends a lone ESC, which does not clear the page: the printer takes the next byte for the rest of
+ *  a command. To clear the page call CancelPrintDataInPageMode. Guarded.
+ *  Returns 0, also when nothing was written; -4.
+ *  ESC/POS: ESC.
+ *  Example: PrtCancelPrintDataInPageMode(0); */
+Q7_API int Q7_CALL PrtCancelPrintDataInPageMode(void* handle);
+
+/** SetPrintAndReturnStandardMode. */
+Q7_API int Q7_CALL PrtSetPrintAndReturnStandardMode(void* handle);
 
 #ifdef __cplusplus
 }

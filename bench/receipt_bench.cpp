@@ -110,6 +110,14 @@ void receipt(benchmark::State& state, bool withLog)
         printReceipt();
 }
 
+void sale(benchmark::State& state, bool withLog)
+{
+    const std::string xml = saleXml(static_cast<int>(state.range(0)));
+    const ConnectedPrinter printer(withLog);
+    for (auto _ : state)
+        ImprimeXMLSAT(xml.c_str(), 0);
+}
+
 void rawWrites(benchmark::State& state)
 {
     const std::vector<std::string> sends = receiptSends();
@@ -142,5 +150,20 @@ void rawWrites(benchmark::State& state)
 BENCHMARK(rawWrites)->Name("RawWrites")->Unit(benchmark::kMicrosecond);
 BENCHMARK_CAPTURE(receipt, off, false)->Name("Receipt/log_off")->Unit(benchmark::kMicrosecond);
 BENCHMARK_CAPTURE(receipt, on, true)->Name("Receipt/log_on")->Unit(benchmark::kMicrosecond);
+
+BENCHMARK_CAPTURE(sale, off, false)
+    ->Name("Sale/log_off")
+    ->Arg(1)
+    ->Arg(10)
+    ->Arg(100)
+    ->Arg(990)
+    ->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(sale, on, true)
+    ->Name("Sale/log_on")
+    ->Arg(1)
+    ->Arg(10)
+    ->Arg(100)
+    ->Arg(990)
+    ->Unit(benchmark::kMicrosecond);
 
 BENCHMARK_MAIN();

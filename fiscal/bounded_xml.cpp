@@ -1,6 +1,5 @@
 #include "bounded_xml.h"
 
-#include <QBuffer>
 #include <QHash>
 #include <QXmlSimpleReader>
 
@@ -126,27 +125,33 @@ QT_WARNING_DISABLE_DEPRECATED
 class BoundedSource : public QXmlInputSource
 {
 public:
-    BoundedSource(QIODevice* device, EntityBudget& entities)
-        : QXmlInputSource(device), m_entities(entities)
+    BoundedSource(const QByteArray& text, EntityBudget& entities) : m_entities(entities)
     {
+        setData(text);
+        m_text = data(); // as characters
     }
 
-    void prologIsOver() { m_inProlog = false; }
+    void prologIsOver()
+    {
+        m_inProlog = false;
+        m_isWatching = !m_entities.isEmpty();
+    }
 
     QChar next() override
     {
-        const QChar c = QXmlInputSource::next();
-        if (!m_inProlog && m_entities.isEmpty())
-            return c;
-        m_ended = m_ended || !admit(c);
-        return m_ended ? QChar(EndOfDocument) : c;
+        if (m_next < m_text.size()) {
+            const QChar c = m_text.at(m_next++);
+            // The first is no character and ends the text in the base class too.
+            if (c != QChar(EndOfData) && (!m_isWatching || admit(c)))
+                return c;
+            m_next = m_text.size();
+        }
+        return QChar(EndOfDocument);
     }
 
 private:
     bool admit(QChar c)
     {
-        if (c == QChar(EndOfData)) // between two blocks of the text, also within a reference
-            return true;
         if (c == QLatin1Char('('))
             return !m_inProlog || ++m_parenthesisDepth <= maxParenthesisDepth;
         if (c == QLatin1Char(')'))
@@ -167,10 +172,12 @@ private:
     }
 
     EntityBudget& m_entities;
+    QString m_text;
+    int m_next = 0;
     QString m_reference; // the reference being read, its end apart
     int m_parenthesisDepth = 0;
     bool m_inProlog = true;
-    bool m_ended = false;
+    bool m_isWatching = true;
 };
 
 // Stands between the reader and the builder of the tree: passes everything on, except elements
@@ -276,10 +283,8 @@ private:
 
 QDomDocument readXml(const QByteArray& text)
 {
-    QBuffer buffer;
-    buffer.setData(text);
     EntityBudget entities;
-    BoundedSource source(&buffer, entities);
+    BoundedSource source(text, entities);
     BoundedReader reader(source, entities);
     QDomDocument document;
     // What was read before an error goes too.

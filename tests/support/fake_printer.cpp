@@ -6,7 +6,7 @@
 #include <cstdlib>
 #include <deque>
 #include <fcntl.h>
-#include <netinet/tcp.h>
+#include <linux/tcp.h>
 #include <poll.h>
 #include <stdexcept>
 #include <sys/socket.h>
@@ -31,6 +31,14 @@ void setOption(int socket, int level, int option, int value)
 {
     if (value > 0)
         checked(setsockopt(socket, level, option, &value, sizeof value), "setsockopt");
+}
+
+std::size_t segmentsOf(int socket)
+{
+    tcp_info info = {};
+    socklen_t size = sizeof info;
+    return getsockopt(socket, IPPROTO_TCP, TCP_INFO, &info, &size) == 0 ? info.tcpi_data_segs_in
+                                                                        : 0;
 }
 
 sockaddr_in loopback(int port)
@@ -264,6 +272,9 @@ void FakePrinter::serve(Connection& connection, const PrinterScript& script)
     while (!connection.replies.empty() && connection.replies.front().due <= now) {
         reply(connection.replies.front().bytes);
         connection.replies.pop_front();
+        const std::lock_guard lock(m_mutex);
+        ++m_received[connection.index].replies;
+        m_changed.notify_all();
     }
     if (script.unaskedEveryMs > 0 && connection.firstByte != Clock::time_point() &&
         now >= connection.nextUnasked) {
@@ -280,24 +291,25 @@ void FakePrinter::take(Connection& connection, const PrinterScript& script, std:
         return;
     char buffer[65536];
     const ssize_t count = read(connection.descriptor, buffer, std::min(limit, sizeof buffer));
-    const Clock::time_point now = Clock::now();
     if (count <= 0) {
         // A terminal stays: its port was closed, or not opened yet.
         const std::lock_guard lock(m_mutex);
         Received& record = m_received[connection.index];
-        if (m_terminal < 0 || !record.bytes.empty()) {
-            record.isClosed = true;
-            m_changed.notify_all();
-            if (m_terminal >= 0) {
-                connection = {connection.descriptor, m_received.size()};
-                m_received.emplace_back();
-            }
-        }
+        record.isClosed = m_terminal < 0 || !record.bytes.empty();
+        m_changed.notify_all();
         if (m_terminal < 0) {
             close(connection.descriptor);
             connection.descriptor = -1;
         }
         return;
+    }
+    const Clock::time_point now = Clock::now();
+    {
+        const std::lock_guard lock(m_mutex);
+        if (m_received[connection.index].isClosed) { // a terminal whose port was opened again
+            connection = {connection.descriptor, m_received.size()};
+            m_received.emplace_back();
+        }
     }
     if (connection.firstByte == Clock::time_point())
         connection.firstByte = connection.nextUnasked = now;
@@ -314,6 +326,7 @@ void FakePrinter::take(Connection& connection, const PrinterScript& script, std:
         Received& record = m_received[connection.index];
         record.bytes.append(buffer, static_cast<std::size_t>(count));
         record.packets.push_back({now, static_cast<std::size_t>(count)});
+        record.segments = segmentsOf(connection.descriptor);
         total = record.bytes.size();
         for (; connection.searched < total && !script.isSilent; ++connection.searched)
             for (const auto& [query, answer] : answers) {

@@ -14,7 +14,7 @@ namespace q7test
 {
 
 using Clock = std::chrono::steady_clock;
-constexpr std::chrono::milliseconds generousTime = std::chrono::seconds(30);
+constexpr std::chrono::milliseconds generousTime = std::chrono::seconds(15);
 
 /** What a printer answers and how it behaves. The defaults are a quick and friendly VANTA. */
 struct PrinterScript {
@@ -44,6 +44,8 @@ struct Received {
     };
     std::string bytes;
     std::vector<Packet> packets; // as they were read
+    std::size_t segments = 0;    // TCP: data segments that brought them
+    std::size_t replies = 0;     // pieces of replies sent
     bool isClosed = false;
 
     std::chrono::duration<double, std::milli> duration(std::size_t fromByte) const;

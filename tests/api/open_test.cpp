@@ -1,0 +1,289 @@
+// Opening, the model check and closing.
+
+#include "export_fixture.h"
+
+#include <cstring>
+#include <dlfcn.h>
+#include <netdb.h>
+#include <netinet/in.h>
+#include <strings.h>
+#include <unistd.h>
+
+using namespace q7test;
+
+// The system's resolver, with two names of its own: one that finds IPv6 first and one that never
+// answers. The library finds this function before the C library's.
+extern "C" int getaddrinfo(const char* name, const char* service, const addrinfo* hints,
+                           addrinfo** found)
+{
+    static const auto real =
+        reinterpret_cast<decltype(&getaddrinfo)>(dlsym(RTLD_NEXT, "getaddrinfo"));
+    if (strcasecmp(name, "muda.teste") == 0)
+        pause();
+    if (strcasecmp(name, "dupla.teste") != 0)
+        return real(name, service, hints, found);
+    if (const int error = real("::1", service, hints, found))
+        return error;
+    return real("127.0.0.1", service, hints, &(*found)->ai_next);
+}
+
+namespace
+{
+
+int openAt(const char* host, int port, const char* model = "VANTA")
+{
+    return AbreConexaoImpressora(3, model, host, port);
+}
+
+/** Milliseconds that a call takes. */
+template <typename Call> double millisecondsOf(Call call)
+{
+    const Clock::time_point start = Clock::now();
+    call();
+    return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
+}
+
+class Open : public ExportTest
+{
+};
+
+TEST_F(Open, LogsCapitalsAndAsksForTheModel)
+{
+    TcpPrinter printer;
+    const std::string port = std::to_string(printer.port());
+    EXPECT_EQ(0, openAt("localhost", printer.port(), "vanta"));
+    EXPECT_EQ(logOf({"AbreConexaoImpressora. PARAMETROS:3,VANTA,LOCALHOST," + port,
+                     "AbreConexaoImpressora. RETORNO:0"}),
+              data.takeLog());
+    EXPECT_EQ(0, FechaConexaoImpressora());
+    EXPECT_EQ(logOf({"FechaConexaoImpressora. PARAMETROS:", "FechaConexaoImpressora. RETORNO:0"}),
+              data.takeLog());
+    EXPECT_EQ(-4, FechaConexaoImpressora());
+    EXPECT_EQ(logOf({"FechaConexaoImpressora. PARAMETROS:"}), data.takeLog());
+    EXPECT_TRUE(sameBytes(hex("1D 49 43"), printer.waitForClose()));
+}
+
+TEST_F(Open, RefusesOtherKinds)
+{
+    for (const int kind : {0, 4, -1}) {
+        const std::string arguments = std::to_string(kind) + ",VANTA,X,1";
+        EXPECT_EQ(-2, AbreConexaoImpressora(kind, "VANTA", "x", 1));
+        EXPECT_EQ(logOf({"AbreConexaoImpressora. PARAMETROS:" + arguments,
+                         "AbreConexaoImpressora. RETORNO:-2"}),
+                  data.takeLog());
+    }
+}
+
+TEST_F(Open, NullsReadAsEmpty)
+{
+    EXPECT_EQ(2, AbreConexaoImpressora(3, nullptr, nullptr, 9100)); // host not found
+    EXPECT_EQ(-3, AbreConexaoImpressora(2, nullptr, nullptr, 9600));
+    EXPECT_EQ(-12, AbreConexaoImpressora(2, "VANTA", nullptr, 9600));
+}
+
+// Applications open with names of their own: these pass while the result before is 0.
+TEST_F(Open, AnUnknownModelPassesBehindASuccessOnly)
+{
+    PrinterScript script;
+    script.model = "SORBE XPTO";
+    TcpPrinter printer(script);
+    const auto open = [&](const char* model) { return openAt("127.0.0.1", printer.port(), model); };
+
+    EXPECT_EQ(0, open("XPTO")); // the first call of the process
+    EXPECT_EQ(0, open("SORBE"));
+    EXPECT_EQ(1, ImpressaoTexto("x", 0, 0, 0)); // leaves a count
+    const std::size_t connections = printer.received().size();
+    data.takeLog();
+    EXPECT_EQ(-3, open("XPTO"));
+    EXPECT_EQ("FUNCAO AbreConexaoImpressora. RETORNO:-3", data.takeLog().back());
+    EXPECT_EQ(connections, printer.received().size());
+    EXPECT_EQ(0, open("SORBE"));
+    EXPECT_EQ(0, FechaConexaoImpressora()); // leaves 0
+    EXPECT_EQ(0, open("xpto"));
+    // ... and keep the model of before: the QR code is in SORBE's dialect.
+    printer.waitForBytes(3);
+    EXPECT_EQ(0, ImpressaoQRCode("A", 1, 1));
+    EXPECT_TRUE(sameBytes(hex("1D 49 43  0A  1D 6B 51 00 02 0A 01 04 00 41  0A"),
+                          printer.waitForBytes(15)));
+
+    EXPECT_EQ(-3, open("VANTA")); // the printer is another: a failure
+    EXPECT_EQ(-3, open("XPTO"));
+    EXPECT_EQ(0, openAt("127.0.0.1", refusingPort(), "VANTA")); // refused reads as success
+    EXPECT_EQ(0, open("XPTO"));
+}
+
+TEST_F(Open, SerialTakesNineSpeeds)
+{
+    PtyPrinter printer;
+    for (const int speed : {300, 1200, 2400, 4800, 9600, 19200, 38400, 57600, 115200}) {
+        EXPECT_EQ(0, AbreConexaoImpressora(2, "VANTA", printer.device().c_str(), speed)) << speed;
+        EXPECT_EQ(0, FechaConexaoImpressora());
+    }
+    data.takeLog();
+    for (const int speed : {0, -9600, 9601, 14400, 230400})
+        EXPECT_EQ(-11, AbreConexaoImpressora(2, "VANTA", "x", speed));
+    EXPECT_EQ(logOf({"AbreConexaoImpressora. PARAMETROS:2,VANTA,X,0",
+                     "AbreConexaoImpressora. PARAMETROS:2,VANTA,X,-9600",
+                     "AbreConexaoImpressora. PARAMETROS:2,VANTA,X,9601",
+                     "AbreConexaoImpressora. PARAMETROS:2,VANTA,X,14400",
+                     "AbreConexaoImpressora. PARAMETROS:2,VANTA,X,230400"}),
+              data.takeLog());
+    EXPECT_EQ(-3, AbreConexaoImpressora(2, "XPTO", "x", 14400)); // the model comes first
+}
+
+TEST_F(Open, SerialPortsAreFoundInWhateverCase)
+{
+    PtyPrinter printer;
+    const std::string number = printer.device().substr(printer.device().rfind('/') + 1);
+    for (const std::string& name : {"/dev/pts/" + number, "/DEV/PTS/" + number, "PTS/" + number}) {
+        EXPECT_EQ(0, AbreConexaoImpressora(2, "VANTA", name.c_str(), 9600)) << name;
+        EXPECT_EQ(0, FechaConexaoImpressora());
+    }
+    EXPECT_EQ(-12, AbreConexaoImpressora(2, "VANTA", "/dev/pts/no such", 9600));
+    EXPECT_EQ(-12, AbreConexaoImpressora(2, "VANTA", "", 9600));
+}
+
+TEST_F(Open, UsbWithoutPrinterIsMinus21)
+{
+    EXPECT_EQ(-21, AbreConexaoImpressora(1, "VANTA", "", 0));
+    EXPECT_EQ(-4, Corte(0));
+    EXPECT_EQ(-4, FechaConexaoImpressora());
+}
+
+TEST_F(Open, ARefusedConnectionReadsAsSuccess)
+{
+    const int port = refusingPort();
+    EXPECT_EQ(0, openAt("127.0.0.1", port));
+    EXPECT_EQ(logOf({"AbreConexaoImpressora. PARAMETROS:3,VANTA,127.0.0.1," + std::to_string(port),
+                     "Connection refused", "AbreConexaoImpressora. RETORNO:0"}),
+              data.takeLog());
+    EXPECT_EQ(-4, ImpressaoTexto("x", 0, 0, 0));
+    EXPECT_EQ(-4, StatusImpressora(2));
+    EXPECT_STREQ("-4", IdImpressora(0));
+    EXPECT_EQ(-4, DirectIO("x", 1, nullptr, nullptr));
+    EXPECT_EQ(-4, FechaConexaoImpressora());
+    openTcp();
+    EXPECT_EQ(1, ImpressaoTexto("x", 0, 0, 0));
+}
+
+TEST_F(Open, PortNumbersEndAt65536)
+{
+    EXPECT_EQ(-31, openAt("127.0.0.1", 65537));
+    EXPECT_EQ(0, openAt("127.0.0.1", 65536)); // tries port 0, where nobody listens
+}
+
+TEST_F(Open, TimesOutWithError5)
+{
+    const DeafPort port;
+    for (const char* host : {"127.0.0.1", "muda.teste"}) {
+        int result = 0;
+        const double took = millisecondsOf([&] { result = openAt(host, port.port()); });
+        EXPECT_EQ(5, result);
+        EXPECT_GT(took, 1900);
+        EXPECT_LT(took, 3000);
+        const auto log = data.takeLog();
+        ASSERT_EQ(3U, log.size());
+        EXPECT_EQ("FUNCAO Socket operation timed out", log[1]);
+        EXPECT_EQ("FUNCAO AbreConexaoImpressora. RETORNO:5", log[2]);
+    }
+    EXPECT_EQ(-4, Corte(0));
+}
+
+TEST_F(Open, FindsAnIpv4PrinterBehindAnIpv6Address)
+{
+    TcpPrinter printer;
+    EXPECT_EQ(0, openAt("dupla.teste", printer.port()));
+    EXPECT_EQ(0, Corte(0));
+}
+
+TEST_F(Open, ASecondOpenAbandonsTheFirst)
+{
+    TcpPrinter first;
+    openAt("127.0.0.1", first.port());
+    EXPECT_EQ(4, ImpressaoTexto("one\n", 0, 0, 0));
+    openTcp();
+    EXPECT_EQ(4, ImpressaoTexto("two\n", 0, 0, 0));
+    EXPECT_TRUE(sameBytes(hex("1B 40 1B 74 10") + "two\n", takeSent()));
+    EXPECT_EQ(0, FechaConexaoImpressora());
+    EXPECT_NE("", tcp->waitForClose());
+    EXPECT_TRUE(sameBytes(hex("1D 49 43  1B 40 1B 74 10") + "one\n", first.waitForBytes(12)));
+    EXPECT_FALSE(first.received().back().isClosed);
+}
+
+TEST_F(Open, AFailedOpenClosesItsLinkAndForgetsTheEarlierOne)
+{
+    openTcp();
+    PrinterScript script;
+    script.model = "VESPA";
+    TcpPrinter other(script);
+    EXPECT_EQ(-3, openAt("127.0.0.1", other.port()));
+    EXPECT_TRUE(sameBytes(hex("1D 49 43"), other.waitForClose()));
+    EXPECT_EQ(-4, Corte(0));
+    EXPECT_EQ(-4, FechaConexaoImpressora());
+}
+
+struct ModelReply {
+    const char* name;
+    const char* model;
+    std::string reply;
+    int result;
+    int delayMs = 0;
+    int byteGapMs = 0;
+};
+
+class ModelCheck : public ExportTest, public testing::WithParamInterface<ModelReply>
+{
+};
+
+TEST_P(ModelCheck, OnSerialAndTcp)
+{
+    const ModelReply& row = GetParam();
+    const std::string query = std::string(row.model) == "TESMO" ? "~HI" : hex("1D 49 43");
+    PrinterScript script;
+    script.answers[query] = row.reply;
+    script.replyDelayMs = row.delayMs;
+    script.replyByteGapMs = row.byteGapMs;
+    TcpPrinter network(script);
+    PtyPrinter line(script);
+
+    int result = 0;
+    for (FakePrinter* printer :
+         {static_cast<FakePrinter*>(&network), static_cast<FakePrinter*>(&line)}) {
+        const double took = millisecondsOf([&] {
+            result = printer == &network
+                         ? openAt("127.0.0.1", network.port(), row.model)
+                         : AbreConexaoImpressora(2, row.model, line.device().c_str(), 9600);
+        });
+        EXPECT_EQ(row.result, result);
+        EXPECT_LT(took, 1500); // 750 ms for the reply
+        EXPECT_EQ(row.result == 0 ? 0 : -4, FechaConexaoImpressora());
+        EXPECT_TRUE(sameBytes(query, printer->waitForClose()));
+    }
+}
+
+const std::string zero(1, '\0');
+
+const ModelReply modelReplies[] = {
+    {"Named", "VANTA", "_VANTA" + zero, 0},
+    {"NamedInSmallLetters", "VANTA", "vanta" + zero, 0},
+    {"WithoutZeroByte", "VANTA", "_VANTA", 0},
+    {"ByteByByte", "ORLA-K", "_ORLA-K" + zero, 0, 0, 2},
+    {"Late", "VANTA", "_VANTA" + zero, 0, 400},
+    {"TooLate", "VANTA", "_VANTA" + zero, -5, 1100},
+    {"Silent", "VANTA", "", -5},
+    {"NoModel", "VANTA", "_XPTO" + zero, -5},
+    {"OtherModel", "VANTA", "_VESPA" + zero, -3},
+    {"NameBehindAZeroByte", "VANTA", zero + "VANTA" + zero, -5},
+    {"LongerName", "RANZA", "_RANZAPRO" + zero, 0},
+    {"ShorterName", "RANZAPRO", "_RANZA" + zero, -3},
+    {"TwoNames", "VESPA", "VESPA,VANTA" + zero, 0},
+    {"Tesmo", "TESMO", "\x02TESMO,V1.15,8,8192KB\x03\r\n", 0},
+    {"TesmoByteByByte", "TESMO", "\x02TESMO,V1.15", 0, 0, 2},
+    {"TesmoFirstFieldCounts", "TESMO", "\x02XPTO,TESMO\x03", -5},
+    {"TesmoStartBytesAreDropped", "TESMO", "TE\x02SMO,1", 0},
+    {"TesmoIsAnother", "TESMO", "VANTA,TESMO", -3},
+};
+INSTANTIATE_TEST_SUITE_P(Reply, ModelCheck, testing::ValuesIn(modelReplies),
+                         [](const auto& row) { return row.param.name; });
+
+} // namespace

@@ -4,6 +4,8 @@
 #include <ctime>
 #include <memory>
 #include <netdb.h>
+#include <netinet/in.h>
+#include <netinet/tcp.h>
 #include <sys/socket.h>
 
 namespace q7
@@ -24,6 +26,13 @@ sigset_t brokenPipeSet()
 void shutDownSending(qintptr socketDescriptor)
 {
     ::shutdown(static_cast<int>(socketDescriptor), SHUT_WR);
+}
+
+// The system returns to delayed acknowledgement by itself: to be asked for before each wait.
+void acknowledgeAtOnce(qintptr socketDescriptor)
+{
+    const int on = 1;
+    ::setsockopt(static_cast<int>(socketDescriptor), IPPROTO_TCP, TCP_QUICKACK, &on, sizeof on);
 }
 
 std::vector<QHostAddress> systemLookUp(const QByteArray& host)

@@ -106,6 +106,7 @@ QByteArray StreamLink::readReply(QDeadlineTimer deadline, const ReplyIsWhole& is
     while (!isWhole(reply) && isOpen()) {
         const auto left = static_cast<int>(deadline.remainingTime());
         const int wait = reply.isEmpty() ? left : std::min(left, replyGapMs);
+        askForMore();
         if (wait <= 0 || !m_device.waitForReadyRead(wait))
             break;
         reply += takeWaiting();

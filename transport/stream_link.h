@@ -28,6 +28,9 @@ protected:
     /** Writes what the system takes without waiting. */
     virtual void flushDevice() = 0;
 
+    /** Called before each wait for a reply or more of it. */
+    virtual void askForMore() {}
+
     /** Waits until everything was handed to the system; gives up after 5 s without progress or when
      *  the link fails. */
     void deliverAll();

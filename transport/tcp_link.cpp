@@ -120,6 +120,11 @@ void TcpLink::flushDevice()
     m_socket->flush();
 }
 
+void TcpLink::askForMore()
+{
+    acknowledgeAtOnce(m_socket->socketDescriptor());
+}
+
 int TcpLink::close()
 {
     if (isOpen())

@@ -30,6 +30,7 @@ public:
 
 protected:
     void flushDevice() override;
+    void askForMore() override;
 
 private:
     std::unique_ptr<QTcpSocket> m_socket;

@@ -1,0 +1,217 @@
+// Status, identification and raw replies.
+
+#include "export_fixture.h"
+
+using namespace q7test;
+
+namespace
+{
+
+std::string statusQuery(int kind)
+{
+    return hex("10 04") + static_cast<char>(kind == 1 ? 1 : kind == 2 ? 2 : kind == 3 ? 4 : 20);
+}
+
+/** Answers to the queries of kinds 1 to 4; an empty one stays away. */
+PrinterScript scriptOf(const std::vector<std::string>& replies)
+{
+    PrinterScript script;
+    for (int kind = 1; kind <= 4; ++kind)
+        script.answers[statusQuery(kind)] = replies[static_cast<std::size_t>(kind - 1)];
+    return script;
+}
+
+class Replies : public ExportTest
+{
+protected:
+    int directIo(const std::string& command, unsigned size = sizeof reply)
+    {
+        replySize = size;
+        return DirectIO(command.data(), static_cast<int>(command.size()), reply, &replySize);
+    }
+
+    char reply[64] = {};
+    unsigned replySize = 0;
+};
+
+TEST_F(Replies, StatesOfASerialPrinter)
+{
+    const struct {
+        int kind;
+        const char* reply;
+        int state;
+    } rows[] = {{1, "FB", 1}, {1, "04", 2}, {2, "04", 3}, {2, "FB", 4}, {3, "93", 5}, {3, "04", 6},
+                {3, "08", 6}, {3, "20", 7}, {3, "40", 7}, {3, "6C", 7}, {3, "00", 5}};
+    openSerial();
+    for (const auto& row : rows) {
+        serial->change(
+            [&](PrinterScript& script) { script.answers[statusQuery(row.kind)] = hex(row.reply); });
+        EXPECT_EQ(row.state, StatusImpressora(row.kind)) << row.kind << ' ' << row.reply;
+        EXPECT_TRUE(sameBytes(hex("1D 61 00") + statusQuery(row.kind), takeSent()));
+    }
+    data.takeLog();
+    EXPECT_EQ(5, StatusImpressora(3));
+    EXPECT_EQ(-126, StatusImpressora(4));
+    EXPECT_EQ(-127, StatusImpressora(0));
+    EXPECT_EQ(-127, StatusImpressora(6));
+    EXPECT_EQ(logOf({"StatusImpressora. PARAMETROS:3", "> 1D 61 00", "> 10 04 04",
+                     "StatusImpressora. RETORNO:5", "StatusImpressora. PARAMETROS:4",
+                     "StatusImpressora. RETORNO:-126", "StatusImpressora. PARAMETROS:0",
+                     "StatusImpressora. PARAMETROS:6"}),
+              data.takeLog());
+}
+
+TEST_F(Replies, StatesOfATcpPrinter)
+{
+    const struct {
+        int kind;
+        const char* reply;
+        int state;
+    } rows[] = {
+        {2, "04", 3}, {3, "0C", 6}, {4, "00 00 20", 9}, {4, "FF FF DF FF", 8}, {4, "20 20", 8}};
+    openTcp();
+    for (const auto& row : rows) {
+        tcp->change(
+            [&](PrinterScript& script) { script.answers[statusQuery(row.kind)] = hex(row.reply); });
+        EXPECT_EQ(row.state, StatusImpressora(row.kind)) << row.kind << ' ' << row.reply;
+    }
+    EXPECT_EQ(-126, StatusImpressora(1));
+    // In pieces, the third byte counts all the same.
+    tcp->change([&](PrinterScript& script) {
+        script.answers[statusQuery(4)] = hex("00 00 20");
+        script.replyByteGapMs = 2;
+    });
+    EXPECT_EQ(9, StatusImpressora(4));
+}
+
+TEST_F(Replies, CombinedStateOnSerial)
+{
+    openSerial(scriptOf({hex("00"), hex("00"), hex("60"), hex("00 00 20")}));
+    EXPECT_EQ(1 + 4 + 8, StatusImpressora(5));
+    EXPECT_TRUE(
+        sameBytes(hex("1D 61 00 10 04 01  1D 61 00 10 04 02  1D 61 00 10 04 04"), takeSent()));
+    const PrinterScript quiet = scriptOf({hex("04"), hex("00"), hex("00"), ""});
+    serial->change([&](PrinterScript& script) { script.answers = quiet.answers; });
+    EXPECT_EQ(0, StatusImpressora(5));
+    serial->change([](PrinterScript& script) { script.answers[statusQuery(2)] = hex("04"); });
+    EXPECT_EQ(2, StatusImpressora(5));
+}
+
+TEST_F(Replies, CombinedStateOnTcpEndsAtTheFirstFailure)
+{
+    openTcp(scriptOf({"", hex("04"), hex("0C"), hex("00 00 20")}));
+    EXPECT_EQ(2 + 4 + 16, StatusImpressora(5));
+    EXPECT_TRUE(
+        sameBytes(hex("1D 61 00 10 04 02  1D 61 00 10 04 04  1D 61 00 10 04 14"), takeSent()));
+    tcp->change([](PrinterScript& script) { script.answers[statusQuery(3)].clear(); });
+    data.takeLog();
+    EXPECT_EQ(-81, StatusImpressora(5));
+    EXPECT_EQ("FUNCAO StatusImpressora. RETORNO:-81", data.takeLog().back());
+    EXPECT_TRUE(sameBytes(hex("1D 61 00 10 04 02  1D 61 00 10 04 04"), takeSent()));
+}
+
+TEST_F(Replies, ALateReplyDoesNotAnswerTheNextQuery)
+{
+    PrinterScript script = scriptOf({"", "", hex("60"), ""});
+    openTcp(script);
+    tcp->change([](PrinterScript& late) { late.replyDelayMs = 1700; });
+    const std::size_t replies = tcp->received().back().replies;
+    EXPECT_EQ(-81, StatusImpressora(3));
+    ASSERT_TRUE(tcp->waitUntil([=](const auto& all) { return all.back().replies > replies; }));
+    tcp->change([](PrinterScript& now) {
+        now.replyDelayMs = 0;
+        now.answers[statusQuery(3)] = hex("00");
+        now.answers[hex("1D 49 41")] = "Q7" + std::string(1, '\0');
+    });
+    EXPECT_EQ(5, StatusImpressora(3));
+    // The same for an identification, and for a status that nobody took: DirectIO leaves it.
+    EXPECT_EQ(-9999, DirectIO(hex("10 04 04").data(), 3, nullptr, nullptr));
+    ASSERT_TRUE(tcp->waitUntil([=](const auto& all) { return all.back().replies > replies + 2; }));
+    EXPECT_STREQ("Q7", IdImpressora(2));
+}
+
+TEST_F(Replies, Identification)
+{
+    const std::string requests[] = {"01 31", "02 32", "41", "42", "43", "44", "45"};
+    openTcp();
+    for (int kind = 0; kind <= 6; ++kind) {
+        const std::string query = hex("1D 49" + requests[kind]);
+        const std::string name = "nome " + std::to_string(kind);
+        tcp->change([&](PrinterScript& script) {
+            script.answers = {{query, name + '\0' + (kind % 2 == 0 ? "rest" : "")}};
+            script.replyByteGapMs = kind % 2 * 2; // byte by byte
+        });
+        EXPECT_EQ(name, IdImpressora(kind));
+        EXPECT_EQ(logOf({"IdImpressora. PARAMETROS:" + std::to_string(kind),
+                         "> 1D 49 " + requests[kind]}),
+                  data.takeLog());
+        EXPECT_TRUE(sameBytes(query, takeSent()));
+        data.takeLog();
+    }
+    EXPECT_STREQ("-402", IdImpressora(7));
+    EXPECT_STREQ("-402", IdImpressora(-1));
+    EXPECT_EQ(logOf({"IdImpressora. PARAMETROS:7", "IdImpressora. PARAMETROS:-1"}), data.takeLog());
+}
+
+TEST_F(Replies, IdentificationTextIsLatin1)
+{
+    openTcp();
+    const std::pair<const char*, const char*> rows[] = {
+        {"sem zero", "sem zero"}, {"ção", "\xE7\xE3o"}, {"A€B", "A"}};
+    for (const auto& [sent, text] : rows) {
+        tcp->change(
+            [&, reply = sent](PrinterScript& script) { script.answers[hex("1D 49 43")] = reply; });
+        EXPECT_STREQ(text, IdImpressora(4));
+    }
+    tcp->change([](PrinterScript& script) { script.isSilent = true; });
+    EXPECT_STREQ("-81", IdImpressora(4));
+    FechaConexaoImpressora();
+    EXPECT_STREQ("-4", IdImpressora(4));
+}
+
+TEST_F(Replies, DirectIoPassesBytesBothWays)
+{
+    const std::string query = hex("1D 00 FF 01");
+    PrinterScript script;
+    script.answers[query] = hex("00 41 00 FF");
+    script.replyByteGapMs = 2;
+    openTcp(script);
+    EXPECT_EQ(0, directIo(query, 1)); // the size given is no bound
+    EXPECT_TRUE(sameBytes(hex("00 41 00 FF"), {reply, replySize}));
+    EXPECT_EQ(logOf({"> 1D 00 FF 01"}), data.takeLog());
+    EXPECT_TRUE(sameBytes(query, takeSent()));
+
+    // No reply wanted: it waits for a later call, which sends nothing itself.
+    const std::size_t replies = tcp->received().back().replies;
+    EXPECT_EQ(-9999, directIo(query, 0));
+    ASSERT_TRUE(tcp->waitUntil([=](const auto& all) { return all.back().replies == replies + 4; }));
+    data.takeLog();
+    replySize = 9;
+    EXPECT_EQ(0, DirectIO(nullptr, 5, reply, &replySize));
+    EXPECT_EQ(4U, replySize);
+    replySize = 9;
+    EXPECT_EQ(-81, DirectIO("x", -1, reply, &replySize));
+    EXPECT_EQ(0U, replySize);
+    EXPECT_EQ(-9999, DirectIO("x", 1, nullptr, &replySize));
+    EXPECT_EQ(-9999, DirectIO("x", 1, reply, nullptr));
+    EXPECT_EQ(logOf({"> 78", "> 78"}), data.takeLog());
+}
+
+TEST_F(Replies, WaitsAtMost1500Milliseconds)
+{
+    PrinterScript script;
+    openTcp(script);
+    tcp->change([](PrinterScript& silent) { silent.isSilent = true; });
+    const std::function<int()> calls[] = {[] { return StatusImpressora(2); },
+                                          [] { return IdImpressora(0)[1] - '0'; },
+                                          [this] { return directIo("x"); }};
+    for (const auto& call : calls) {
+        const Clock::time_point start = Clock::now();
+        call();
+        const auto took = Clock::now() - start;
+        EXPECT_GE(took, std::chrono::milliseconds(1450));
+        EXPECT_LT(took, std::chrono::milliseconds(2500));
+    }
+}
+
+} // namespace

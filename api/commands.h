@@ -80,4 +80,11 @@ inline QByteArray argumentWord(int value)
     return argumentByte(value) + argumentByte(value / 256);
 }
 
+/** ESC W with its arguments, in dots. */
+inline QByteArray printArea(int xDots, int yDots, int widthDots, int heightDots)
+{
+    return CMD_PRINT_AREA + argumentWord(xDots) + argumentWord(yDots) + argumentWord(widthDots) +
+           argumentWord(heightDots);
+}
+
 } // namespace q7

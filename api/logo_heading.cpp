@@ -6,16 +6,6 @@
 
 namespace q7
 {
-namespace
-{
-
-QByteArray printArea(int xDots, int yDots, int widthDots, int heightDots)
-{
-    return CMD_PRINT_AREA + argumentWord(xDots) + argumentWord(yDots) + argumentWord(widthDots) +
-           argumentWord(heightDots);
-}
-
-} // namespace
 
 void printLogoHeading(const QString& text, int mode)
 {

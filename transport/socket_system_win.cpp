@@ -38,6 +38,18 @@ void shutDownSending(qintptr socketDescriptor)
     ::shutdown(static_cast<SOCKET>(socketDescriptor), SD_SEND);
 }
 
+// Systems that do not know the request acknowledge as they always do.
+void acknowledgeAtOnce(qintptr socketDescriptor)
+{
+#ifndef SIO_TCP_SET_ACK_FREQUENCY
+    constexpr DWORD SIO_TCP_SET_ACK_FREQUENCY = _WSAIOW(IOC_VENDOR, 23); // not in every kit
+#endif
+    int segments = 1;
+    DWORD returned = 0;
+    ::WSAIoctl(static_cast<SOCKET>(socketDescriptor), SIO_TCP_SET_ACK_FREQUENCY, &segments,
+               sizeof segments, nullptr, 0, &returned, nullptr, nullptr);
+}
+
 std::vector<QHostAddress> systemLookUp(const QByteArray& host)
 {
     const Winsock winsock;

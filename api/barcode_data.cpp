@@ -51,6 +51,11 @@ bool isShort(const QByteArray& data)
 
 } // namespace
 
+bool hasSubsetSelector(const QByteArray& data)
+{
+    return data.startsWith("{A") || data.startsWith("{B") || data.startsWith("{C");
+}
+
 bool isBarcodeData(int type, const QByteArray& data, bool choosesSubset)
 {
     switch (type) {
@@ -72,9 +77,7 @@ bool isBarcodeData(int type, const QByteArray& data, bool choosesSubset)
     case Code93:
         return isShort(data) && all(data, isAscii);
     case Code128:
-        return (choosesSubset || data.startsWith("{A") || data.startsWith("{B") ||
-                data.startsWith("{C")) &&
-               all(data, isAscii);
+        return (choosesSubset || hasSubsetSelector(data)) && all(data, isAscii);
     default:
         return false;
     }

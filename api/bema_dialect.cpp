@@ -39,8 +39,9 @@ int printBemaQrCode(PrinterSession& printerSession, const char* data, int module
     const int length = text.size() + 3;
     const int lengthHigh = text.size() <= 255 ? 0 : length / 256;
     printerSession.send(CMD_QR_BEMA);
-    printerSession.send(argumentByte(2 * moduleSize) + argumentByte(static_cast<int>(correction)) +
-                        argumentByte(1) + argumentByte(length) + argumentByte(lengthHigh));
+    printerSession.send(argumentByte(static_cast<int>(sizeStep) + 2) +
+                        argumentByte(static_cast<int>(correction)) + argumentByte(1) +
+                        argumentByte(length) + argumentByte(lengthHigh));
     const int sent = printerSession.sendText(text.toUtf8());
     printerSession.send(CMD_LF);
     if (sent < 1)
@@ -54,10 +55,10 @@ int printBemaBarcode(PrinterSession& printerSession, int type, const QByteArray&
 {
     const char* text = data.constData();
     logCall({"ImpressaoCodigoBarrasBema"}, std::tie(type, text, heightDots, moduleWidthDots, hri));
-    const bool hasSelector = type == Code128 && (data.startsWith("{A") || data.startsWith("{B") ||
-                                                 data.startsWith("{C"));
+    const bool hasSelector = type == Code128 && hasSubsetSelector(data);
     const QByteArray content = hasSelector ? data.mid(2) : data;
-    printerSession.send(CMD_BARCODE + argumentByte(type + 65) + argumentByte(content.size()));
+    printerSession.send(CMD_BARCODE + argumentByte(type + firstLengthPrefixedType) +
+                        argumentByte(content.size()));
     return printerSession.sendText(content);
 }
 

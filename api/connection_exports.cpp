@@ -29,6 +29,7 @@ void startNewConnection(PrinterSession& printerSession)
         printerSession.connection->endCall();
         static_cast<void>(printerSession.connection.release());
     }
+    // Never open from birth, so that Q7_ERR_ALREADY_OPEN is not to be had any more.
     printerSession.connection = std::make_unique<PrinterConnection>();
 }
 

@@ -7,7 +7,7 @@ SessionCall::SessionCall(PrinterSession& printerSession) : m_session(printerSess
 {
     if (m_session.callDepth++ != 0)
         return;
-    m_brokenPipe.emplace();
+    m_brokenPipe.emplace(SignalBlock::BrokenPipe);
     if (m_session.connection)
         m_session.connection->beginCall();
 }

@@ -5,7 +5,7 @@
 #include "log.h"
 #include "printer_session.h"
 #include "q7_impressora.h"
-#include "socket_system.h"
+#include "signal_block.h"
 
 #include <QString>
 #include <optional>
@@ -32,9 +32,10 @@ constexpr Outcome refused(int code)
     return {code, false};
 }
 
-/** 0 when a send wrote something, else what it returned. */
-constexpr Outcome returnedIfSent(int sendResult)
+/** Keeps a send's result as the session's last. 0 when it wrote something, else the result. */
+inline Outcome returnedIfSent(PrinterSession& printerSession, int sendResult)
 {
+    printerSession.lastResult = sendResult;
     return sendResult < 1 ? refused(sendResult) : returned(Q7_OK);
 }
 
@@ -61,7 +62,7 @@ public:
 private:
     PrinterSession& m_session;
     LogCall m_log;
-    std::optional<BrokenPipeGuard> m_brokenPipe; // of the outermost
+    std::optional<SignalBlock> m_brokenPipe; // of the outermost
 };
 
 /** A text argument; a null pointer reads as empty text. */
@@ -160,8 +161,7 @@ template <typename... Arguments, typename Body>
 int runSend(const ExportName& name, const std::tuple<Arguments...>& arguments, Body&& body) noexcept
 {
     return runCommand(name, arguments, [&](PrinterSession& printerSession) {
-        printerSession.lastResult = body(printerSession);
-        return returnedIfSent(printerSession.lastResult);
+        return returnedIfSent(printerSession, body(printerSession));
     });
 }
 

@@ -14,7 +14,7 @@ void printLogoHeading(const QString& text, int mode)
     printerSession.sendAll({CMD_PAGE_MODE, printArea(0, 0, 225, 256), CMD_CANCEL, CMD_DIRECTION_0});
     if (mode == 1)
         printerSession.send(CMD_HORIZONTAL_POSITION + argumentWord(35));
-    printerSession.sendAll({CMD_NV_GRAPHICS_PRINT + "00" + commandBytes("\x01\x01"),
+    printerSession.sendAll({CMD_NV_GRAPHICS_PRINT + "00" + QByteArrayLiteral("\x01\x01"),
                             printArea(225, 10, 366, 256), CMD_FONT_B_ON});
     printerSession.sendText(text.toLatin1());
     printerSession.sendAll({CMD_PAGE_PRINT, CMD_STANDARD_MODE});

@@ -32,8 +32,7 @@ int Q7_CALL DirecaoImpressao(int direcao)
     return runCommand({"DirecaoImpressao"}, std::tie(direcao), [&](PrinterSession& printerSession) {
         if (direcao < 0 || direcao > 3)
             return refused(Q7_ERR_DIRECTION);
-        printerSession.lastResult = printerSession.send(directions[direcao]);
-        return returnedIfSent(printerSession.lastResult);
+        return returnedIfSent(printerSession, printerSession.send(directions[direcao]));
     });
 }
 
@@ -49,15 +48,14 @@ int Q7_CALL DefineAreaImpressao(int x, int y, int largura, int altura)
 
 int Q7_CALL PosicaoImpressaoHorizontal(int posicao)
 {
-    return runCommand({"PosicaoImpressaoHorizontal"}, std::tie(posicao),
-                      [&](PrinterSession& printerSession) {
-                          constexpr int highestPosition = 500; // dots; there is no lowest
-                          if (posicao > highestPosition)
-                              return refused(Q7_ERR_POSITION);
-                          printerSession.send(CMD_HORIZONTAL_POSITION);
-                          printerSession.lastResult = printerSession.send(argumentWord(posicao));
-                          return returnedIfSent(printerSession.lastResult);
-                      });
+    return runCommand(
+        {"PosicaoImpressaoHorizontal"}, std::tie(posicao), [&](PrinterSession& printerSession) {
+            constexpr int highestPosition = 500; // dots; there is no lowest
+            if (posicao > highestPosition)
+                return refused(Q7_ERR_POSITION);
+            printerSession.send(CMD_HORIZONTAL_POSITION);
+            return returnedIfSent(printerSession, printerSession.send(argumentWord(posicao)));
+        });
 }
 
 int Q7_CALL PosicaoImpressaoVertical(int posicao)

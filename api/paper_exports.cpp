@@ -58,8 +58,8 @@ int Q7_CALL SinalSonoro(int qtd, int tempoInicio, int tempoFim)
                 static_cast<unsigned>(tempoFim) > longestTime)
                 return refused(Q7_ERR_BUZZER_TIME);
             printerSession.send(CMD_BEEP);
-            printerSession.lastResult = printerSession.send(
-                argumentByte(qtd) + argumentByte(tempoInicio) + argumentByte(tempoFim));
-            return returnedIfSent(printerSession.lastResult);
+            return returnedIfSent(printerSession, printerSession.send(argumentByte(qtd) +
+                                                                      argumentByte(tempoInicio) +
+                                                                      argumentByte(tempoFim)));
         });
 }

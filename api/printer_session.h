@@ -34,7 +34,7 @@ public:
     /** Sends a query behind which a reply is expected, late answers to earlier ones thrown away. */
     void sendQuery(std::initializer_list<QByteArray> commands);
 
-    /** Reads a reply into replyData. Returns 0 when there is one, else Q7_ERR_NO_REPLY, _NOT_OPEN.
+    /** Reads a reply into replyData. Returns 0 when there is one, else Q7_ERR_NO_REPLY.
      *  timeoutMs: for the reply's end; its beginning has replyTimeoutMs. */
     int readReply(const ReplyIsWhole& isWhole, int timeoutMs = replyTimeoutMs);
 

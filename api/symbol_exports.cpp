@@ -28,11 +28,11 @@ Outcome printStandardQrCode(PrinterSession& printerSession, const QString& text,
     printerSession.send(CMD_QR_ERROR_LEVEL);
     printerSession.send(argumentByte(levelCharacter(level)));
     printerSession.send(CMD_QR_STORE + argumentByte(length) + argumentByte(length / 256) +
-                        commandBytes("\x31\x50\x30"));
+                        QByteArrayLiteral("\x31\x50\x30"));
     printerSession.lastResult = printerSession.sendText(text.toUtf8());
     printerSession.send(CMD_QR_PRINT);
     printerSession.send(CMD_LF);
-    return returnedIfSent(printerSession.lastResult);
+    return returnedIfSent(printerSession, printerSession.lastResult);
 }
 
 // GS o and GS k 11: the data ends at a zero byte.
@@ -63,7 +63,7 @@ int pairValue(const QByteArray& pair)
 // GS k m n (function B). Data of Code 128 subset C goes out as one byte for each pair of digits.
 void sendBarcode(PrinterSession& printerSession, int type, const QByteArray& data)
 {
-    const QByteArray head = CMD_BARCODE + argumentByte(type + 65);
+    const QByteArray head = CMD_BARCODE + argumentByte(type + firstLengthPrefixedType);
     if (!data.startsWith("{C")) {
         printerSession.sendText(head + argumentByte(data.size()));
         printerSession.lastResult = printerSession.sendText(data);
@@ -144,6 +144,6 @@ int Q7_CALL ImpressaoCodigoBarras(int tipo, const char* dados, int altura, int l
                                   printerSession, tipo, data, altura, largura, HRI);
                           else
                               sendBarcode(printerSession, tipo, data);
-                          return returnedIfSent(printerSession.lastResult);
+                          return returnedIfSent(printerSession, printerSession.lastResult);
                       });
 }

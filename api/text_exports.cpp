@@ -80,8 +80,7 @@ int Q7_CALL DefinePosicao(int posicao)
         if (posicao > highestAlignment)
             return refused(Q7_ERR_ALIGNMENT);
         printerSession.send(CMD_ALIGN);
-        printerSession.lastResult = printerSession.send(argumentByte(posicao));
-        return returnedIfSent(printerSession.lastResult);
+        return returnedIfSent(printerSession, printerSession.send(argumentByte(posicao)));
     });
 }
 

@@ -71,7 +71,8 @@ QString text(const QSettings& settings, Row row)
 {
     const Setting& setting = settingTable[row];
     const QVariant value = settings.value(pathOf(setting), QLatin1String(setting.defaultText));
-    // A comma in a hand-edited, unquoted value makes the INI reader split it into a list.
+    // A comma in a hand-edited, unquoted value makes the INI reader split it into a list, without
+    // the blanks behind the commas.
     return value.type() == QVariant::StringList ? value.toStringList().join(", ")
                                                 : value.toString();
 }

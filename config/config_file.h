@@ -15,7 +15,7 @@ QString configFilePath();
  *  Returns whether it exists or was written without error. */
 bool ensureConfigFile();
 
-/** One getter per key, over settings opened with openConfigFile(). A missing key yields its
+/** One getter per key, over an IniFile(configFilePath()). A missing key yields its
  *  default; an existing file is never completed. */
 namespace config
 {

@@ -1,10 +1,8 @@
 #include "log.h"
 
-#include "data_folder.h"
 #include "registered_data_folder.h"
 
 #include <QDateTime>
-#include <QFile>
 #include <cstdio>
 
 namespace q7
@@ -62,17 +60,10 @@ void writeLog(int kind, const char* message)
     const QString line = '[' + time + "].....[" + tagOf(kind) + QString::fromUtf8(message) + "]\n";
 
     // Opened for each line, so that an operator can move the file away while the library is loaded.
-    // ExistingOnly: a file deleted since the test above must not come back.
-    QFile file(pathInDataFolder(logFileName));
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::ExistingOnly |
-                   QIODevice::Unbuffered)) {
-        if (existsInDataFolder(logFileName)) {
-            std::fputs("Erro ao abrir arquivo!\n", stdout);
-            std::fflush(stdout);
-        }
-        return;
+    if (!appendInDataFolder(logFileName, line.toUtf8())) {
+        std::fputs("Erro ao abrir arquivo!\n", stdout);
+        std::fflush(stdout);
     }
-    file.write(line.toUtf8());
 }
 
 void writeLog(LogKind kind, const QString& message)

@@ -14,4 +14,8 @@ QString registeredDataFolder();
  *  often to learn that the log is off: the cheapest test that the platform has. */
 bool existsInDataFolder(const char* fileName);
 
+/** Appends to a file in the data folder that exists; never makes one. Returns false when it cannot
+ *  be opened although it is there. */
+bool appendInDataFolder(const char* fileName, const QByteArray& bytes);
+
 } // namespace q7

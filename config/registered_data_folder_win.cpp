@@ -1,5 +1,6 @@
 #include "registered_data_folder.h"
 
+#include <QFile>
 #include <QSettings>
 #include <QStringList>
 
@@ -29,6 +30,17 @@ bool isFolder(const std::wstring& path)
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
 }
 
+// The file's path in the data folder, or its bare name in the working folder.
+std::wstring pathOf(const char* fileName)
+{
+    std::wstring path = registeredDataFolder().toStdWString();
+    if (path.empty() || !isFolder(path))
+        path.clear();
+    else if (path.back() != L'/' && path.back() != L'\\')
+        path += L'/';
+    return path.append(fileName, fileName + std::char_traits<char>::length(fileName));
+}
+
 } // namespace
 
 // The key is looked for in the process's own view of the registry and read in the 64-bit one:
@@ -45,13 +57,17 @@ QString registeredDataFolder()
 // file.
 bool existsInDataFolder(const char* fileName)
 {
-    std::wstring path = registeredDataFolder().toStdWString();
-    if (path.empty() || !isFolder(path))
-        path.clear();
-    else if (path.back() != L'/' && path.back() != L'\\')
-        path += L'/';
-    path.append(fileName, fileName + std::char_traits<char>::length(fileName));
-    return ::GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES;
+    return ::GetFileAttributesW(pathOf(fileName).c_str()) != INVALID_FILE_ATTRIBUTES;
+}
+
+bool appendInDataFolder(const char* fileName, const QByteArray& bytes)
+{
+    QFile file(QString::fromStdWString(pathOf(fileName)));
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::ExistingOnly |
+                   QIODevice::Unbuffered))
+        return !existsInDataFolder(fileName);
+    file.write(bytes);
+    return true;
 }
 
 } // namespace q7

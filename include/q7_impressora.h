@@ -253,7 +253,7 @@ Q7_API int Q7_CALL SinalSonoro(int qtd, int tempoInicio, int tempoFim);
  *  Returns for 1: 1 drawer signal low, 2 high; for 2: 3 cover open, 4 closed; for 3: 5 paper
  *  present, 6 near end, 7 out; for 4: 8 or 9 (signalled); for 5 the sum of 1 drawer signal low,
  *  2 cover open, 4 paper near end or out, 8 paper out, 16 signalled; -4; -81 no reply; -126 not
- *  available here; -127 param; -9999 unintelligible.
+ *  available here; -127 param.
  *  ESC/POS: GS a 0, DLE EOT n.
  *  Example: if (StatusImpressora(3) == 7) puts("sem papel"); */
 Q7_API int Q7_CALL StatusImpressora(int param);
@@ -263,7 +263,8 @@ Q7_API int Q7_CALL StatusImpressora(int param);
  *  comando, tamanho: the bytes and their count. resposta: buffer for the reply, which must be large
  *  enough: the copy is not bounded (1024 bytes hold every reply over USB). tamanhoResposta: in, 0
  *  for no reply wanted; out, the count of bytes copied.
- *  Returns 0; -4; -81 no reply; -9999 when no reply was wanted or a pointer is null.
+ *  Returns 0; -4; -81 no reply; -9999 when no reply was wanted, resposta or
+ *  tamanhoResposta null included. A null comando sends nothing.
  *  Example: unsigned n = 64; DirectIO("\x1D\x49\x43", 3, buffer, &n); */
 Q7_API int Q7_CALL DirectIO(const char* comando, int tamanho, char* resposta,
                             unsigned int* tamanhoResposta);

@@ -1,83 +1,119 @@
 #include "background_work.h"
 
 #include "library_hold.h"
+#include "signal_block.h"
 
+#include <QCoreApplication>
+#include <QThread>
+#include <condition_variable>
+#include <mutex>
 #include <set>
 
 namespace q7
 {
+
+struct BackgroundWork::Thread {
+    void run(const Step& step);
+    void stop();
+
+    std::unique_ptr<QThread> thread;
+    qint64 process = QCoreApplication::applicationPid();
+    std::mutex mutex;
+    std::condition_variable stopping;
+    bool isStopping = false;
+};
+
 namespace
 {
 
 /** All work under way, to be stopped before the code and the libraries that it runs go. */
-class WorkUnderWay
-{
-public:
-    ~WorkUnderWay()
-    {
-        while (BackgroundWork* work = any())
-            work->stop();
-    }
-
-    void add(BackgroundWork* work)
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        m_work.insert(work);
-    }
-
-    void remove(BackgroundWork* work)
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        m_work.erase(work);
-    }
-
-private:
-    BackgroundWork* any()
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        return m_work.empty() ? nullptr : *m_work.begin();
-    }
-
-    std::mutex m_mutex;
-    std::set<BackgroundWork*> m_work;
+struct WorkUnderWay {
+    std::mutex mutex;
+    std::set<BackgroundWork*> work;
 };
 
-WorkUnderWay workUnderWay;
+// Never destroyed: a link may end, in a destructor of the program's, after all static objects.
+WorkUnderWay& workUnderWay()
+{
+    static auto& all = *new WorkUnderWay;
+    return all;
+}
+
+BackgroundWork* anyWorkUnderWay()
+{
+    const std::lock_guard<std::mutex> lock(workUnderWay().mutex);
+    return workUnderWay().work.empty() ? nullptr : *workUnderWay().work.begin();
+}
+
+struct StopsAllAtTheEnd {
+    ~StopsAllAtTheEnd()
+    {
+        while (BackgroundWork* work = anyWorkUnderWay())
+            work->stop();
+    }
+} const stopsAllAtTheEnd;
 
 } // namespace
 
-void BackgroundWork::start(std::function<bool()> step, std::chrono::milliseconds pause)
+BackgroundWork::BackgroundWork() = default;
+
+BackgroundWork::~BackgroundWork()
+{
+    stop();
+}
+
+void BackgroundWork::start(Step step)
 {
     stop();
     holdLibrary();
-    m_thread.reset(QThread::create([this, step = std::move(step), pause] {
-        while (step() && pauseUnlessStopping(pause)) {
-        }
-    }));
-    workUnderWay.add(this);
-    m_thread->start();
-}
-
-bool BackgroundWork::pauseUnlessStopping(std::chrono::milliseconds pause)
-{
-    std::unique_lock<std::mutex> lock(m_mutex);
-    return !m_stop.wait_for(lock, pause, [this] { return m_isStopping; });
+    m_thread = std::make_unique<Thread>();
+    m_thread->thread.reset(
+        QThread::create([state = m_thread.get(), step = std::move(step)] { state->run(step); }));
+    {
+        const std::lock_guard<std::mutex> lock(workUnderWay().mutex);
+        workUnderWay().work.insert(this);
+    }
+    // The host's signals are for its own threads.
+    const SignalBlock everySignal(SignalBlock::Every);
+    m_thread->thread->start();
 }
 
 void BackgroundWork::stop()
 {
     if (!m_thread)
         return;
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        m_isStopping = true;
+    if (m_thread->process != QCoreApplication::applicationPid()) {
+        static_cast<void>(m_thread.release()); // its locks may be held for ever by the lost thread
+        return;
     }
-    m_stop.notify_all();
-    m_thread->wait();
+    m_thread->stop();
     m_thread.reset();
-    m_isStopping = false;
-    workUnderWay.remove(this);
+    {
+        const std::lock_guard<std::mutex> lock(workUnderWay().mutex);
+        workUnderWay().work.erase(this);
+    }
     releaseLibrary();
+}
+
+void BackgroundWork::Thread::run(const Step& step)
+try {
+    while (const auto pause = step()) {
+        std::unique_lock<std::mutex> lock(mutex);
+        if (stopping.wait_for(lock, *pause, [this] { return isStopping; }))
+            return;
+    }
+} catch (...) {
+    // No memory: the next call hands over itself.
+}
+
+void BackgroundWork::Thread::stop()
+{
+    {
+        const std::lock_guard<std::mutex> lock(mutex);
+        isStopping = true;
+    }
+    stopping.notify_all();
+    thread->wait();
 }
 
 } // namespace q7

@@ -1,12 +1,10 @@
 // Work that goes on between the calls of an application.
 #pragma once
 
-#include <QThread>
 #include <chrono>
-#include <condition_variable>
 #include <functional>
 #include <memory>
-#include <mutex>
+#include <optional>
 
 namespace q7
 {
@@ -16,24 +14,24 @@ namespace q7
 class BackgroundWork
 {
 public:
-    BackgroundWork() = default;
-    ~BackgroundWork() { stop(); }
+    /** Does a part and waits for nothing itself. Returns the pause until the next step, nothing when
+     *  all is done. */
+    using Step = std::function<std::optional<std::chrono::milliseconds>()>;
+
+    BackgroundWork();
+    ~BackgroundWork();
     BackgroundWork(const BackgroundWork&) = delete;
     BackgroundWork& operator=(const BackgroundWork&) = delete;
 
-    /** step: returns whether there is more to do, and waits for nothing itself. */
-    void start(std::function<bool()> step, std::chrono::milliseconds pause);
+    void start(Step step);
 
-    /** Cuts a pause short; returns once the step under way has ended. */
+    /** Cuts a pause short; returns once the step under way has ended. In a process that was forked
+     *  off meanwhile there is no thread, and nothing to stop. */
     void stop();
 
 private:
-    bool pauseUnlessStopping(std::chrono::milliseconds pause);
-
-    std::unique_ptr<QThread> m_thread;
-    std::mutex m_mutex;
-    std::condition_variable m_stop;
-    bool m_isStopping = false;
+    struct Thread;
+    std::unique_ptr<Thread> m_thread; // null when nothing is at work
 };
 
 } // namespace q7

@@ -7,8 +7,6 @@ namespace q7
 
 EscreverLer::Reply EscreverLer::readReply(int timeoutMs, const ReplyIsWhole& isWhole)
 {
-    if (!m_connection.isOpen())
-        return {Q7_ERR_NOT_OPEN, {}};
     m_connection.handOver();
     if (!m_connection.waitReadable())
         return {Q7_ERR_NO_REPLY, {}};

@@ -16,7 +16,7 @@ class EscreverLer
 {
 public:
     struct Reply {
-        int status; // 0 when data was taken, Q7_ERR_NO_REPLY when nothing came, Q7_ERR_NOT_OPEN
+        int status; // 0 when data was taken, Q7_ERR_NO_REPLY when nothing came
         QByteArray data;
     };
 

@@ -1,6 +1,7 @@
 #include "host_lookup.h"
 
 #include "library_hold.h"
+#include "signal_block.h"
 #include "socket_system.h"
 
 #include <chrono>
@@ -21,7 +22,12 @@ HostLookup lookUpHost(const QString& host, QDeadlineTimer deadline)
     std::packaged_task<std::vector<QHostAddress>()> task(
         [name = host.toLatin1()] { return systemLookUp(name); });
     std::future<std::vector<QHostAddress>> answer = task.get_future();
-    std::thread resolver(std::move(task));
+    std::thread resolver;
+    {
+        // The host's signals are for its own threads.
+        const SignalBlock everySignal(SignalBlock::Every);
+        resolver = std::thread(std::move(task));
+    }
     if (answer.wait_for(std::chrono::milliseconds(deadline.remainingTime())) ==
         std::future_status::ready) {
         resolver.join();

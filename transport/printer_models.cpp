@@ -73,7 +73,8 @@ void readIdentifier(const QSettings& settings, const PrinterModel& model, const 
 
 const std::vector<PrinterModel>& modelTable()
 {
-    static const std::vector<PrinterModel> models = buildTable();
+    // Never destroyed: a program may print from a destructor of its own at its end.
+    static const auto& models = *new std::vector<PrinterModel>(buildTable());
     return models;
 }
 

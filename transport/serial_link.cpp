@@ -74,7 +74,7 @@ SerialOpened openSerialLink(const QString& address, int bitsPerSecond)
     if (portName.isEmpty())
         return {nullptr, Q7_ERR_SERIAL_NOT_FOUND};
     auto port = std::unique_ptr<QSerialPort>();
-    int result = Q7_OK;
+    int result = Q7_ERR_FAILED; // also when there is no thread to be had
     // A serial port makes its notifiers when it opens and when it first writes, and complains where
     // there is no event dispatcher for them. It gets one for that long and then leaves its thread.
     runOnQtThread([&] {
@@ -85,10 +85,10 @@ SerialOpened openSerialLink(const QString& address, int bitsPerSecond)
         port->setDataBits(QSerialPort::Data8);
         port->setStopBits(QSerialPort::OneStop);
         port->setFlowControl(QSerialPort::NoFlowControl);
-        if (port->open(QIODevice::ReadWrite))
+        const bool isOpen = port->open(QIODevice::ReadWrite);
+        result = isOpen ? int{Q7_OK} : codeOf(port->error());
+        if (isOpen)
             prepareSerialWrites(*port);
-        else
-            result = codeOf(port->error());
         leaveThread(*port);
     });
     if (result != Q7_OK)

@@ -19,18 +19,4 @@ void acknowledgeAtOnce(qintptr socketDescriptor);
  *  when there are none. Blocks for as long as the system's resolver does. */
 std::vector<QHostAddress> systemLookUp(const QByteArray& host);
 
-/** For its life, writing to a connection that the other side has reset raises no signal in this
- *  thread, whatever the host program has arranged. Links are used with one in force. */
-class BrokenPipeGuard
-{
-public:
-    BrokenPipeGuard();
-    ~BrokenPipeGuard();
-    BrokenPipeGuard(const BrokenPipeGuard&) = delete;
-    BrokenPipeGuard& operator=(const BrokenPipeGuard&) = delete;
-
-private:
-    bool m_blockedHere = false;
-};
-
 } // namespace q7

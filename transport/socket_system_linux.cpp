@@ -1,7 +1,5 @@
 #include "socket_system.h"
 
-#include <csignal>
-#include <ctime>
 #include <memory>
 #include <netdb.h>
 #include <netinet/in.h>
@@ -10,19 +8,6 @@
 
 namespace q7
 {
-namespace
-{
-
-sigset_t brokenPipeSet()
-{
-    sigset_t set;
-    sigemptyset(&set);
-    sigaddset(&set, SIGPIPE);
-    return set;
-}
-
-} // namespace
-
 void shutDownSending(qintptr socketDescriptor)
 {
     ::shutdown(static_cast<int>(socketDescriptor), SHUT_WR);
@@ -47,25 +32,6 @@ std::vector<QHostAddress> systemLookUp(const QByteArray& host)
     for (const addrinfo* entry = found; entry != nullptr; entry = entry->ai_next)
         addresses.emplace_back(entry->ai_addr);
     return addresses;
-}
-
-BrokenPipeGuard::BrokenPipeGuard()
-{
-    const sigset_t brokenPipe = brokenPipeSet();
-    sigset_t before;
-    m_blockedHere =
-        pthread_sigmask(SIG_BLOCK, &brokenPipe, &before) == 0 && sigismember(&before, SIGPIPE) == 0;
-}
-
-BrokenPipeGuard::~BrokenPipeGuard()
-{
-    if (!m_blockedHere)
-        return;
-    const sigset_t brokenPipe = brokenPipeSet();
-    // Takes the signal, if one was raised, before it could be delivered.
-    const timespec now = {};
-    sigtimedwait(&brokenPipe, nullptr, &now);
-    pthread_sigmask(SIG_UNBLOCK, &brokenPipe, nullptr);
 }
 
 } // namespace q7

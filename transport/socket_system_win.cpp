@@ -65,15 +65,4 @@ std::vector<QHostAddress> systemLookUp(const QByteArray& host)
     return addresses;
 }
 
-void keepLibraryLoaded()
-{
-    HMODULE self = nullptr;
-    ::GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_PIN,
-                         reinterpret_cast<const wchar_t*>(&keepLibraryLoaded), &self);
-}
-
-// A broken connection raises no signal here.
-BrokenPipeGuard::BrokenPipeGuard() = default;
-BrokenPipeGuard::~BrokenPipeGuard() = default;
-
 } // namespace q7

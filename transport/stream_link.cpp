@@ -1,7 +1,6 @@
 #include "stream_link.h"
 
 #include "q7_impressora.h"
-#include "socket_system.h"
 
 #include <algorithm>
 
@@ -11,6 +10,10 @@ namespace
 {
 
 constexpr int handOverLimitMs = 250;
+// Sends of one call leave together up to here; a call of many more must not fill the memory.
+constexpr int mostGathered = 65536;
+// A reply from a printer that never stops talking ends here.
+constexpr int replyLimit = 65536;
 // An input that never dries up, from a printer that keeps sending status, ends a discard.
 constexpr int discardRounds = 64;
 
@@ -22,6 +25,8 @@ int StreamLink::send(const QByteArray& bytes)
         return Q7_ERR_NOT_OPEN;
     // The count is a signed 16-bit number: callers know a wrapped count for what it is.
     const auto count = static_cast<qint16>(m_device.write(bytes));
+    if (m_device.bytesToWrite() > mostGathered)
+        flushDevice();
     return count <= 0 ? int{Q7_ERR_NOT_SENT} : count;
 }
 
@@ -53,14 +58,19 @@ void StreamLink::endCall()
     handOver();
     if (!isOpen() || m_device.bytesToWrite() == 0)
         return;
-    constexpr std::chrono::milliseconds pause(10);
+    // While nothing moves the pauses grow: a printer may be out of paper over night.
+    static constexpr std::chrono::milliseconds shortestPause(10);
+    static constexpr std::chrono::milliseconds longestPause(1000);
     m_backgroundHandOver.start(
-        [this] {
-            const BrokenPipeGuard guard;
+        [this, pause = shortestPause]() mutable -> std::optional<std::chrono::milliseconds> {
+            const qint64 before = m_device.bytesToWrite();
             flushDevice();
-            return isOpen() && m_device.bytesToWrite() > 0;
-        },
-        pause);
+            const qint64 left = m_device.bytesToWrite();
+            if (!isOpen() || left == 0)
+                return std::nullopt;
+            pause = left < before ? shortestPause : std::min(pause * 2, longestPause);
+            return pause;
+        });
 }
 
 // Returns whether bytes left. A wait that ends early without progress is a failing link.
@@ -103,7 +113,7 @@ QByteArray StreamLink::takeWaiting()
 QByteArray StreamLink::readReply(QDeadlineTimer deadline, const ReplyIsWhole& isWhole)
 {
     QByteArray reply = takeWaiting();
-    while (!isWhole(reply) && isOpen()) {
+    while (!isWhole(reply) && reply.size() < replyLimit && isOpen()) {
         const auto left = static_cast<int>(deadline.remainingTime());
         const int wait = reply.isEmpty() ? left : std::min(left, replyGapMs);
         askForMore();

@@ -28,10 +28,11 @@ std::unique_ptr<QTcpSocket> makeSocket()
 void drain(QTcpSocket& socket, int timeoutMs)
 {
     const QDeadlineTimer deadline(timeoutMs);
-    socket.readAll();
-    while (socket.state() == QAbstractSocket::ConnectedState &&
-           socket.waitForReadyRead(static_cast<int>(deadline.remainingTime())))
+    do
         socket.readAll();
+    while (socket.state() == QAbstractSocket::ConnectedState &&
+           socket.waitForReadyRead(static_cast<int>(deadline.remainingTime())) &&
+           !deadline.hasExpired());
 }
 
 /** Sockets whose printer still reads: closing one while its printer sends unasked status would
@@ -50,7 +51,10 @@ public:
     void reap()
     {
         for (auto socket = m_sockets.begin(); socket != m_sockets.end();) {
-            drain(**socket, 0);
+            // One that was given up with bytes left is held only so that the system goes on sending
+            // what it has; reading from it would try to write the rest.
+            if ((*socket)->bytesToWrite() == 0)
+                drain(**socket, 0);
             const bool finished = (*socket)->state() != QAbstractSocket::ConnectedState;
             socket = finished ? m_sockets.erase(socket) : socket + 1;
         }
@@ -63,7 +67,7 @@ private:
 
 FinishingSockets& finishingSockets()
 {
-    static FinishingSockets sockets;
+    static auto& sockets = *new FinishingSockets; // the system closes what the process leaves
     return sockets;
 }
 
@@ -129,9 +133,10 @@ int TcpLink::close()
 {
     if (isOpen())
         deliverAll();
-    if (isOpen() && m_socket->bytesToWrite() == 0) {
+    if (isOpen()) {
         shutDownSending(m_socket->socketDescriptor());
-        drain(*m_socket, farCloseLimitMs);
+        if (m_socket->bytesToWrite() == 0)
+            drain(*m_socket, farCloseLimitMs);
         if (isOpen())
             finishingSockets().add(std::move(m_socket));
     }

@@ -8,6 +8,9 @@
 namespace q7
 {
 
+/** Bytes that a reply over USB has at most: applications give DirectIO a buffer of this size. */
+constexpr int usbReplyLimit = 1024;
+
 class UsbDevice
 {
 public:
@@ -21,11 +24,11 @@ public:
     /** Writes all bytes and flushes; ends at the time-out with what was taken by then. */
     virtual Written write(const QByteArray& bytes, int timeoutMs) = 0;
 
-    /** Waits at most timeoutMs for bytes and returns those that came, at most 1024; empty when none
+    /** Waits at most timeoutMs for bytes and returns those that came, at most usbReplyLimit; empty when none
      *  did or the device failed. A read that was given up swallows nothing of a later reply. */
     virtual QByteArray read(int timeoutMs) = 0;
 
-    /** Returns 0, or the system's error number; the device then stays open. */
+    /** Returns 0, or the system's error number. */
     virtual int close() = 0;
 };
 

@@ -6,13 +6,12 @@
 #include <fcntl.h>
 #include <poll.h>
 #include <unistd.h>
+#include <utility>
 
 namespace q7
 {
 namespace
 {
-
-constexpr std::size_t readLimit = 1024;
 
 /** Waits until the descriptor is ready for the events or the deadline passes. */
 bool waitFor(int descriptor, short events, const QDeadlineTimer& deadline)
@@ -51,7 +50,7 @@ public:
     QByteArray read(int timeoutMs) override
     {
         const QDeadlineTimer deadline(timeoutMs);
-        char buffer[readLimit];
+        char buffer[usbReplyLimit];
         while (waitFor(m_descriptor, POLLIN, deadline)) {
             const ssize_t count = ::read(m_descriptor, buffer, sizeof buffer);
             if (count > 0)
@@ -68,10 +67,9 @@ public:
 
     int close() override
     {
-        if (m_descriptor >= 0 && ::close(m_descriptor) != 0 && errno != EINTR)
-            return errno;
-        m_descriptor = -1;
-        return 0;
+        // The number is free again whatever close() says, and may be another's by the next call.
+        const int descriptor = std::exchange(m_descriptor, -1);
+        return descriptor >= 0 && ::close(descriptor) != 0 && errno != EINTR ? errno : 0;
     }
 
 private:

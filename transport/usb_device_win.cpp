@@ -14,7 +14,7 @@ namespace q7
 namespace
 {
 
-constexpr DWORD readLimit = 1024;
+constexpr DWORD readLimit = usbReplyLimit;
 constexpr DWORD emptyReadPauseMs = 5;
 // How long an operation may take to end after it was cancelled.
 constexpr DWORD cancelGraceMs = 100;

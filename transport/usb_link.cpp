@@ -3,6 +3,7 @@
 #include "q7_impressora.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace q7
 {
@@ -13,6 +14,12 @@ constexpr int writeTimeoutMs = 1500;
 constexpr int writeTimeoutPerByteMs = 2;
 // What a printer that took nothing last time is given to show that it moves again.
 constexpr int stalledWriteTimeoutMs = 1;
+
+int writeTimeoutMsFor(int bytes)
+{
+    const qint64 timeoutMs = writeTimeoutMs + qint64{writeTimeoutPerByteMs} * bytes;
+    return static_cast<int>(std::min<qint64>(timeoutMs, std::numeric_limits<int>::max()));
+}
 
 } // namespace
 
@@ -27,8 +34,7 @@ int UsbLink::send(const QByteArray& bytes)
 {
     if (!isOpen())
         return Q7_ERR_NOT_OPEN;
-    const int timeoutMs =
-        m_stalled ? stalledWriteTimeoutMs : writeTimeoutMs + writeTimeoutPerByteMs * bytes.size();
+    const int timeoutMs = m_stalled ? stalledWriteTimeoutMs : writeTimeoutMsFor(bytes.size());
     const UsbDevice::Written written = m_device->write(bytes, timeoutMs);
     // The system's own number, although it can be taken for a count: applications know it.
     if (written.error != 0)
@@ -45,13 +51,14 @@ bool UsbLink::waitReadable(int /*timeoutMs*/)
 QByteArray UsbLink::readReply(QDeadlineTimer deadline, const ReplyIsWhole& isWhole)
 {
     QByteArray reply;
-    while (isOpen() && !isWhole(reply)) {
+    while (isOpen() && !isWhole(reply) && reply.size() < usbReplyLimit) {
         const auto left = static_cast<int>(deadline.remainingTime());
         const QByteArray more = m_device->read(reply.isEmpty() ? left : std::min(left, replyGapMs));
         if (more.isEmpty())
             break;
         reply += more;
     }
+    reply.truncate(usbReplyLimit);
     return reply;
 }
 

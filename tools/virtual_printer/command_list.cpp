@@ -81,7 +81,7 @@ std::string listLine(const Command& command)
 
 std::string remarkLine(std::uint64_t offset, std::string_view remark)
 {
-    return (offsetColumn(offset) + "! ").append(remark);
+    return (offsetColumn(offset) + ">> ").append(remark);
 }
 
 } // namespace virtual_printer

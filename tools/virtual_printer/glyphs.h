@@ -1,0 +1,38 @@
+/** \file glyphs.h
+ *  The printer's two fonts.
+ */
+#ifndef Q7_VIRTUAL_PRINTER_GLYPHS_H
+#define Q7_VIRTUAL_PRINTER_GLYPHS_H
+
+#include "bitmap.h"
+
+namespace virtual_printer
+{
+
+enum class Font : std::uint8_t { A, B };
+
+struct Cell {
+    int widthDots;
+    int heightDots;
+};
+constexpr Cell cellOf(Font font)
+{
+    return font == Font::A ? Cell{12, 24} : Cell{9, 17};
+}
+
+/** Gives the dots of characters. */
+class Glyphs
+{
+public:
+    virtual ~Glyphs() = default;
+    Glyphs() = default;
+    Glyphs(const Glyphs&) = delete;
+    Glyphs& operator=(const Glyphs&) = delete;
+
+    /** The dots of one cell; blank for a character the font does not have. */
+    virtual const Bitmap& glyph(char16_t character, Font font) = 0;
+};
+
+} // namespace virtual_printer
+
+#endif

@@ -1,0 +1,42 @@
+/** \file options.h
+ *  The program's command line.
+ */
+#ifndef Q7_VIRTUAL_PRINTER_OPTIONS_H
+#define Q7_VIRTUAL_PRINTER_OPTIONS_H
+
+#include "server.h"
+
+#include <map>
+#include <vector>
+
+namespace virtual_printer
+{
+
+struct Options {
+    ServerSettings server;
+    bool modelChosen = false;
+    std::string portFile;
+    int jobs = 0;
+    std::string input;    /**< file of printer bytes to draw instead of serving */
+    std::string inputLog; /**< library log to draw instead of serving */
+    std::string output = ".";
+    std::string name = "job";
+    bool pictures = true;
+    std::string fontFile;
+    std::map<std::string, std::string> graphicFiles; /**< by key */
+    bool help = false;
+};
+
+extern const char* const kUsage;
+
+/** A mistake in the command line. */
+struct UsageError {
+    std::string message;
+};
+
+/** Throws UsageError. */
+Options parseOptions(const std::vector<std::string>& arguments);
+
+} // namespace virtual_printer
+
+#endif

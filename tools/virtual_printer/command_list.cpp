@@ -35,6 +35,12 @@ std::string offsetColumn(std::uint64_t offset)
     return number + "  ";
 }
 
+/** What of it is no data of variable length. */
+std::size_t headSize(const Command& command)
+{
+    return command.dataSize > 0 ? command.dataAt : command.bytes.size();
+}
+
 bool isImage(const Command& command)
 {
     return command.op == Op::RasterImage || command.op == Op::NoEffect;
@@ -42,36 +48,44 @@ bool isImage(const Command& command)
 
 } // namespace
 
-std::string listLine(const Command& command)
+std::string nameWithArguments(const Command& command)
 {
-    std::string line = offsetColumn(command.offset);
     if (command.op == Op::Text) {
-        return line + quoted(command.bytes);
+        return quoted(command.bytes);
     }
-    const std::size_t head = command.dataSize > 0 ? command.dataAt : command.bytes.size();
-    line += hexOf(std::string_view(command.bytes).substr(0, head));
-    padTo(line, 36);
-
-    const CommandName name = nameOf(command);
+    const std::string name = nameOf(command).name;
     switch (command.op) {
     case Op::Unknown:
-        return line + "unknown";
+        return "unknown";
     case Op::Malformed:
-        line.append("malformed ").append(name.name).append(", ").append(name.effect);
-        break;
+        return "malformed " + name;
     case Op::Truncated:
-        return line.append("truncated ").append(name.name).append(", ").append(name.effect);
+        return "truncated " + name;
     default:
-        line += name.name;
-        for (std::size_t at = command.argsAt; at < head; ++at) {
-            line += ' ' + std::to_string(static_cast<unsigned char>(command.bytes[at]));
-        }
-        if (!name.effect.empty()) {
-            padTo(line, 54);
-            line += name.effect;
-        }
+        break;
     }
-    if (command.dataSize > 0) {
+    std::string text = name;
+    for (std::size_t at = command.argsAt; at < headSize(command); ++at) {
+        text += ' ' + std::to_string(static_cast<unsigned char>(command.bytes[at]));
+    }
+    return text;
+}
+
+std::string listLine(const Command& command)
+{
+    constexpr std::size_t nameColumn = 44;
+    constexpr std::size_t effectColumn = 70;
+    std::string line = offsetColumn(command.offset);
+    if (command.op != Op::Text) {
+        line += hexOf(std::string_view(command.bytes).substr(0, headSize(command)));
+        padTo(line, nameColumn);
+    }
+    line += nameWithArguments(command);
+    if (const std::string_view effect = nameOf(command).effect; !effect.empty()) {
+        padTo(line, effectColumn);
+        line += effect;
+    }
+    if (command.op != Op::Text && command.dataSize > 0) {
         line += ' ';
         line +=
             isImage(command) ? std::to_string(command.dataSize) + " bytes" : quoted(command.data());

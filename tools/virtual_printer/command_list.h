@@ -9,12 +9,12 @@
 namespace virtual_printer
 {
 
+/** Its name and its arguments in decimal, such as "ESC a 1"; text in quotes; "unknown",
+ *  "malformed GS k" or "truncated ESC a" for what cannot be read. */
+std::string nameWithArguments(const Command& command);
+
 /** The command's line without a line end: its offset, its head in hexadecimal, its name with its
- *  arguments in decimal, its effect and its data, such as
- *
- *      "      12  1B 61 01                 ESC a 1     alignment"
- *
- *  Text stands alone in quotes; images show their size instead of their data. */
+ *  arguments, its effect and its data. Text stands alone; images show their size, not their data. */
 std::string listLine(const Command& command);
 
 /** A line about the command at that offset: what the printer made of it that a reader of the bytes

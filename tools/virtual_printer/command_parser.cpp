@@ -124,20 +124,20 @@ constexpr Spec kSpecs[] = {
 struct FunctionSpec {
     unsigned char lead;
     unsigned char letter;
+    Op op;
     std::string_view head; /**< the first data bytes, which name the function */
     std::size_t length;    /**< of the whole data; 0 for any */
-    Op op;
     std::string_view effect;
 };
 
 constexpr FunctionSpec kFunctions[] = {
-    {kEsc, 'A', "\x61", 5, Op::Buzzer, "buzzer"},
-    {kGs, 'L', "\x30\x45", 6, Op::StoredGraphic, "print stored graphic"},
-    {kGs, 'k', "\x31\x41", 4, Op::QrModel, "QR model"},
-    {kGs, 'k', "\x31\x43", 3, Op::QrModuleSize, "QR module size"},
-    {kGs, 'k', "\x31\x45", 3, Op::QrLevel, "QR level"},
-    {kGs, 'k', "\x31\x50\x30", 0, Op::QrStore, "QR data"},
-    {kGs, 'k', "\x31\x51\x30", 3, Op::QrPrint, "print QR code"},
+    {kEsc, 'A', Op::Buzzer, "\x61\x64", 5, "buzzer"},
+    {kGs, 'L', Op::StoredGraphic, "\x30\x45", 6, "print stored graphic"},
+    {kGs, 'k', Op::QrModel, "\x31\x41", 4, "QR model"},
+    {kGs, 'k', Op::QrModuleSize, "\x31\x43", 3, "QR module size"},
+    {kGs, 'k', Op::QrLevel, "\x31\x45", 3, "QR level"},
+    {kGs, 'k', Op::QrStore, "\x31\x50\x30", 0, "QR data"},
+    {kGs, 'k', Op::QrPrint, "\x31\x51\x30", 3, "print QR code"},
 };
 
 const Spec* findSpec(unsigned char lead, unsigned char code)

@@ -21,7 +21,7 @@ public:
     using Receiver = std::function<void(const Command&)>;
 
     /** Commands announcing more bytes than this are malformed: what follows them is printed. */
-    static constexpr std::size_t kLongestCommand = 1024U * 1024U;
+    static constexpr std::size_t kLongestCommand = 1048576;
     /** A run of text is handed on at the latest when it is this long. */
     static constexpr std::size_t kLongestText = 4096;
 

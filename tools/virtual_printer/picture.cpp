@@ -45,9 +45,12 @@ public:
     void dots(const std::uint8_t* bits, int count, int x, int y)
     {
         unsigned char* line = image_.scanLine(y) + x;
-        for (int column = 0; column < count; ++column) {
-            if ((bits[column / 8] & (0x80U >> (column % 8U))) != 0) {
-                line[column] = kInk;
+        for (int at = 0; at < count; at += 8) {
+            const unsigned byte = bits[at / 8];
+            for (int dot = 0; byte != 0 && dot < 8; ++dot) {
+                if ((byte & (0x80U >> static_cast<unsigned>(dot))) != 0) {
+                    line[at + dot] = kInk; // the dots behind the last one are never set
+                }
             }
         }
     }
@@ -76,6 +79,35 @@ private:
     QImage image_;
 };
 
+struct MarginLine {
+    int y;
+    std::string text;
+};
+
+/** The notes beside the rows that they belong to, or below the note before. */
+std::vector<MarginLine> marginLines(const std::vector<Picture::Note>& notes)
+{
+    const int height = cellOf(Font::B).heightDots;
+    std::vector<MarginLine> lines;
+    int free = kGroundDots;
+    for (const Picture::Note& note : notes) {
+        free = std::max(free, Picture::kTopDots + note.row - height / 2);
+        std::string_view rest = note.text;
+        while (!rest.empty()) {
+            std::size_t end = rest.size();
+            if (end > kNoteColumns) {
+                const std::size_t blank = rest.rfind(' ', kNoteColumns);
+                end = blank == std::string_view::npos || blank == 0 ? kNoteColumns : blank;
+            }
+            lines.push_back({free, std::string(rest.substr(0, end))});
+            rest.remove_prefix(end);
+            rest.remove_prefix(std::min(rest.find_first_not_of(' '), rest.size()));
+            free += height;
+        }
+    }
+    return lines;
+}
+
 } // namespace
 
 Picture::Picture(std::string stem, int widthDots, Glyphs& glyphs)
@@ -90,7 +122,7 @@ void Picture::print(const Bitmap& dots, int advanceDots)
     }
     commitBlank();
     if (rowCount_ + dots.height() > kPartRows) {
-        writePart("goes on in the next picture", false);
+        writePart("goes on in the next part", false);
     }
     if (dots.width() != widthDots_) {
         throw std::logic_error("a line has the width of the paper");
@@ -138,8 +170,10 @@ void Picture::writePart(std::string_view ending, bool cut)
     const int paperHeight = rowCount_ + 2 * kEndDots;
     const Cell cell = cellOf(Font::B);
     const int notesX = kGroundDots + paperWidth + kGroundDots;
+    const std::vector<MarginLine> margin = marginLines(notes_);
     Canvas canvas(notesX + kNoteColumns * cell.widthDots + kGroundDots,
-                  paperHeight + 2 * kGroundDots);
+                  std::max(kGroundDots + paperHeight, margin.back().y + cell.heightDots) +
+                      kGroundDots);
     canvas.fill(kGroundDots, kGroundDots, paperWidth, paperHeight, kPaper);
     if (cut) {
         for (int row = 0; row < kToothDots; ++row) { // the teeth that the cutter leaves
@@ -155,18 +189,12 @@ void Picture::writePart(std::string_view ending, bool cut)
                     kLeftDots, kTopDots + row);
     }
 
-    int free = kGroundDots;
-    for (const Note& note : notes_) {
-        int y = std::max(free, kTopDots + note.row - cell.heightDots / 2);
-        for (std::size_t at = 0; at < note.text.size(); at += kNoteColumns) {
-            int x = notesX;
-            for (const char c : note.text.substr(at, kNoteColumns)) {
-                canvas.glyph(glyphs_.glyph(static_cast<unsigned char>(c), Font::B), x, y);
-                x += cell.widthDots;
-            }
-            y += cell.heightDots;
+    for (const auto& [y, text] : margin) {
+        int x = notesX;
+        for (const char c : text) {
+            canvas.glyph(glyphs_.glyph(static_cast<unsigned char>(c), Font::B), x, y);
+            x += cell.widthDots;
         }
-        free = y;
     }
 
     paths_.push_back(stem_ + (paths_.empty() ? "" : "-" + std::to_string(paths_.size() + 1)) +

@@ -39,11 +39,12 @@ public:
      *  not be written. */
     const std::vector<std::string>& end(End how);
 
-private:
     struct Note {
-        int row;
+        int row; /**< of the part */
         std::string text;
     };
+
+private:
     void commitBlank();
     void writePart(std::string_view ending, bool cut);
 

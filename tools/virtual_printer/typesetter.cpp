@@ -458,9 +458,14 @@ void Typesetter::drawGlyph(Bitmap& strip, const PlacedGlyph& glyph, int left)
     const int x = left + glyph.x;
     const int y = strip.height() - style.heightDots(); // all stand on one base line
     for (int row = 0; row < cell.heightDots; ++row) {
+        // A row of a cell fits into two bytes, its leftmost dot in the highest bit.
+        unsigned ink = shape.height() > row
+                           ? static_cast<unsigned>(shape.row(row)[0] << 8) | shape.row(row)[1]
+                           : 0;
+        ink = bold ? ink | (ink >> 1U) : ink;
+        ink = style.reverse ? ~ink : ink;
         for (int column = 0; column < cell.widthDots; ++column) {
-            const bool ink = shape.at(column, row) || (bold && shape.at(column - 1, row));
-            if (ink != style.reverse) {
+            if ((ink & (0x8000U >> static_cast<unsigned>(column))) != 0) {
                 strip.fill(x + column * style.widthFactor, y + row * style.heightFactor,
                            style.widthFactor, style.heightFactor);
             }

@@ -1,0 +1,321 @@
+#include "bytes.h"
+#include "file_job.h"
+#include "font_glyphs.h"
+
+#include <QImage>
+#include <gtest/gtest.h>
+#include <zbar.h>
+
+#include <ctime>
+#include <filesystem>
+#include <random>
+
+#include <sys/resource.h>
+#include <unistd.h>
+
+using namespace virtual_printer;
+
+namespace
+{
+
+FontGlyphs& fontGlyphs()
+{
+    static FontGlyphs glyphs;
+    return glyphs;
+}
+
+/** Runs bytes through a job in a folder of its own. */
+class Drawing : public testing::Test
+{
+protected:
+    Drawing()
+        : folder_(std::filesystem::path(testing::TempDir()) /
+                  ("q7_drawing_" + std::to_string(getpid())))
+    {
+        std::filesystem::create_directories(folder_);
+    }
+    ~Drawing() override { std::filesystem::remove_all(folder_); }
+
+    void draw(const std::string& stream, const char* model = "VANTA", Graphics graphics = {})
+    {
+        said_.clear();
+        const Workshop workshop{(folder_ / "job").string(), &fontGlyphs(), std::move(graphics),
+                                [this](const std::string& line) { said_.push_back(line); }};
+        FileJob job(workshop, *findModel(model), 1);
+        runJob(job, stream, *findModel(model));
+    }
+
+    [[nodiscard]] QImage picture(const std::string& suffix = "1-1") const
+    {
+        const QImage image(QString::fromStdString((folder_ / ("job-" + suffix + ".png")).string()));
+        EXPECT_FALSE(image.isNull()) << suffix;
+        return image.convertToFormat(QImage::Format_Grayscale8);
+    }
+
+    [[nodiscard]] std::string file(const char* name) const
+    {
+        std::ifstream in(folder_ / name, std::ios::binary);
+        return {std::istreambuf_iterator<char>(in), {}};
+    }
+
+    std::filesystem::path folder_;
+    std::vector<std::string> said_;
+};
+
+/** What an independent reader finds in the picture: "QR-Code:text". */
+std::string readSymbols(const QImage& grey)
+{
+    using namespace zbar;
+    const auto width = static_cast<unsigned>(grey.width());
+    const auto height = static_cast<unsigned>(grey.height());
+    std::string pixels;
+    for (int y = 0; y < grey.height(); ++y) {
+        pixels.append(reinterpret_cast<const char*>(grey.constScanLine(y)), width);
+    }
+    zbar_image_t* image = zbar_image_create();
+    zbar_image_set_format(image, zbar_fourcc('Y', '8', '0', '0'));
+    zbar_image_set_size(image, width, height);
+    zbar_image_set_data(image, pixels.data(), pixels.size(), nullptr);
+    zbar_image_scanner_t* scanner = zbar_image_scanner_create();
+    zbar_image_scanner_set_config(scanner, ZBAR_NONE, ZBAR_CFG_ENABLE, 1);
+    zbar_scan_image(scanner, image);
+    std::string found;
+    for (const zbar_symbol_t* symbol = zbar_image_first_symbol(image); symbol != nullptr;
+         symbol = zbar_symbol_next(symbol)) {
+        found.append(found.empty() ? "" : "\n")
+            .append(zbar_get_symbol_name(zbar_symbol_get_type(symbol)))
+            .append(":")
+            .append(zbar_symbol_get_data(symbol), zbar_symbol_get_data_length(symbol));
+    }
+    zbar_image_scanner_destroy(scanner);
+    zbar_image_destroy(image);
+    return found;
+}
+
+const std::string kKey = "35240111222333000181590000123456781234567890";
+const std::string kQrText =
+    "https://www.nfce.fazenda.example.gov.br/qrcode?p=" + kKey + "|2|1|1|0123456789ABCDEF";
+
+std::string pairsOf(const std::string& digits)
+{
+    std::string pairs;
+    for (std::size_t at = 0; at < digits.size(); at += 2) {
+        pairs += static_cast<char>(std::stoi(digits.substr(at, 2)));
+    }
+    return pairs;
+}
+
+std::string byte(std::size_t value)
+{
+    return std::string(1, static_cast<char>(value));
+}
+
+struct QrDialect {
+    const char* model;
+    std::string stream;
+};
+
+class QrDialects : public Drawing, public testing::WithParamInterface<QrDialect>
+{
+};
+
+/** Every style, alignment, size, symbol and mode, on a small receipt. */
+std::string everyStyle()
+{
+    return bytes(
+        "1B 40 1B 74 10 'Fonte A: ' E7 E3 'o' 0A 1B 21 01 'Fonte B: ' E7 E3 'o' 0A"
+        "1B 40 1B 74 10 1B 61 01 1B 45 01 'Negrito' 1B 45 00 ' normal' 0A"
+        "1B 61 02 1B 21 80 'Sublinhado ' 1B 21 81 'pequeno' 0A 1B 21 00 1B 61 00"
+        "1D 42 01 ' Inverso ' 1D 42 00 ' direto ' 1B 21 01 1D 42 01 ' B ' 1D 42 00 0A 1B 21 00"
+        "1D 21 11 'Dobro' 1D 21 01 ' alto' 1D 21 10 ' largo' 1D 21 00 ' um' 0A"
+        "1B 33 28 'Entrelinha 40' 0A 'fim' 0A 1B 32"
+        "1B 61 01 1D 68 28 1D 77 02 1D 48 02 1D 6B 43 0C '789100031550'"
+        "1D 28 6B 03 00 31 43 03 1D 28 6B 0B 00 31 50 30 'Q7 teste'"
+        "1D 28 6B 03 00 31 51 30 0A 1B 61 00"
+        "1B 4C 1B 57 00 00 00 00 90 00 50 00 1D 28 4C 06 00 30 45 '00' 01 01"
+        "1B 57 90 00 00 00 C8 00 50 00 1B 21 01 'Logotipo' 0A 'ao lado' 1B 21 00"
+        "1B 57 58 01 00 00 50 00 50 00 1B 54 01 'sobe' 1B 54 03 'desce' 1B 0C 1B 53"
+        "1B 70 30 64 64 1B 28 41 05 00 61 64 03 02 01 'perdido' 1B 40 'ok' 0A 1D 56 00");
+}
+
+Graphics testGraphic()
+{
+    Bitmap disc(64, 64);
+    for (int y = 0; y < 64; ++y) {
+        for (int x = 0; x < 64; ++x) {
+            disc.set(x, y,
+                     (x - 32) * (x - 32) + (y - 32) * (y - 32) < 900 && (x / 8 + y / 8) % 2 == 0);
+        }
+    }
+    return {{"00", disc}};
+}
+
+} // namespace
+
+TEST_P(QrDialects, CanBeScanned)
+{
+    draw(GetParam().stream, GetParam().model);
+    EXPECT_EQ(readSymbols(picture()), "QR-Code:" + kQrText);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Models, QrDialects,
+    testing::Values(
+        QrDialect{"VANTA",
+                  bytes("1B 61 01 1D 28 6B 03 00 31 43 04 1D 28 6B 03 00 31 45 31 1D 28 6B") +
+                      byte(kQrText.size() + 3) + bytes("00 31 50 30") + kQrText +
+                      bytes("1D 28 6B 03 00 31 51 30 0A")},
+        QrDialect{"ORLA-K",
+                  bytes("1B 61 01 1D 6F 00 04 00 02 1D 6B 0B 'MA,'") + kQrText + bytes("00 0A")},
+        QrDialect{"SORBE", bytes("1B 61 01 0A 1D 6B 51 00 08 0E 01") + byte(kQrText.size() + 3) +
+                               bytes("00") + kQrText + "\n"}),
+    [](const auto& row) {
+        return std::string(row.param.model) == "ORLA-K" ? "ORLAK" : std::string(row.param.model);
+    });
+
+TEST_F(Drawing, Code128OfAnAccessKeyCanBeScanned)
+{
+    draw(bytes("1B 61 01 1D 68 32 1D 77 02 1D 48 04 1D 6B 49 18 '{C'") + pairsOf(kKey) + "\n");
+    EXPECT_EQ(readSymbols(picture()), "CODE-128:" + kKey);
+}
+
+TEST_F(Drawing, Code128OfAPrinterThatPicksTheSetCanBeScanned)
+{
+    draw(bytes("1B 61 01 1D 68 32 1D 77 02 1D 6B 49 0C 'Caixa 123456' 0A"), "SORBE");
+    EXPECT_EQ(readSymbols(picture()), "CODE-128:Caixa 123456");
+}
+
+TEST_F(Drawing, ALineOf64ColumnsFillsTheWidth)
+{
+    draw(bytes("1B 21 01") + std::string(64, '#') + "\n");
+    const QImage image = picture();
+    const auto isInk = [&](int x) {
+        for (int y = 0; y < 17; ++y) {
+            if (qGray(image.pixel(Picture::kLeftDots + x, Picture::kTopDots + y)) < 64) {
+                return true;
+            }
+        }
+        return false;
+    };
+    std::vector<bool> first;
+    std::vector<bool> last;
+    for (int x = 0; x < 9; ++x) {
+        first.push_back(isInk(x));
+        last.push_back(isInk(63 * 9 + x));
+    }
+    EXPECT_EQ(last, first) << "the last column is drawn whole";
+    EXPECT_NE(std::count(first.begin(), first.end(), true), 0);
+    EXPECT_FALSE(isInk(576));
+}
+
+TEST_F(Drawing, EveryStyleLooksAsInTheReferencePicture)
+{
+    draw(everyStyle(), "VANTA", testGraphic());
+    const QImage image = picture();
+    const QImage reference =
+        QImage(Q7_REFERENCE_PICTURE).convertToFormat(QImage::Format_Grayscale8);
+    const auto kept = std::filesystem::temp_directory_path() / "q7_styles_drawn.png";
+    std::filesystem::copy_file(folder_ / "job-1-1.png", kept,
+                               std::filesystem::copy_options::overwrite_existing);
+    ASSERT_EQ(image.size(), reference.size()) << "drawn: " << kept;
+    // A font renderer of another version may move a few dots of a glyph; a missing underline is
+    // 24 dots in a tile.
+    constexpr int tile = 24;
+    constexpr int mostDots = 12;
+    for (int top = 0; top < image.height(); top += tile) {
+        for (int left = 0; left < image.width(); left += tile) {
+            int different = 0;
+            for (int y = top; y < std::min(top + tile, image.height()); ++y) {
+                for (int x = left; x < std::min(left + tile, image.width()); ++x) {
+                    different += image.pixel(x, y) != reference.pixel(x, y) ? 1 : 0;
+                }
+            }
+            ASSERT_LE(different, mostDots)
+                << "around " << left << ',' << top << "; drawn: " << kept;
+        }
+    }
+}
+
+TEST_F(Drawing, ACutEndsAReceipt)
+{
+    draw(bytes("'one' 0A 1D 56 00 1D 56 00 'two' 0A 1B 7A 'three'"));
+    EXPECT_EQ(said_.size(), 5U) << "a text and a picture of each of two receipts, and the end";
+    EXPECT_EQ(said_.back(), "job 1 ended, not understood: 1, the first at byte 14");
+    EXPECT_EQ(file("job-1-1.txt").substr(0, 4), "one\n");
+    EXPECT_EQ(file("job-1-2.txt"), "two\n");
+    EXPECT_NE(file("job-1.list")
+                  .find("21  >> the end of the connection throws away what was "
+                        "received at 16 and not yet printed: three"),
+              std::string::npos)
+        << file("job-1.list");
+    EXPECT_EQ(file("job-1.bin").size(), 21U);
+}
+
+TEST_F(Drawing, ALongReceiptIsSplitBetweenLines)
+{
+    std::string items;
+    for (int item = 1; item <= 990; ++item) {
+        std::string line = std::to_string(item) + " ARROZ TIPO 1 5KG 1 UN X 25.90";
+        items += line + std::string(123 - line.size(), ' ') + "25.90";
+    }
+    const std::clock_t began = std::clock();
+    draw(bytes("1B 40 1B 21 01 1B 74 10") + items + "\n");
+    EXPECT_LT(static_cast<double>(std::clock() - began) / CLOCKS_PER_SEC, 2.0 * Q7_SLOWNESS)
+        << "seconds of processor time";
+    int rows = 0;
+    for (const char* part : {"1-1", "1-1-2", "1-1-3", "1-1-4"}) {
+        rows += picture(part).height() - 2 * Picture::kTopDots;
+    }
+    EXPECT_EQ(rows, 990 * 2 * 30);
+}
+
+TEST_F(Drawing, HostileStreamsDoNoHarm)
+{
+    const std::string leads = bytes("1B 1D 10 1C 0A 28 6B 4C 00 30 31 FF 40 57 54 0C 61 24 76 49");
+    const std::string known = everyStyle();
+    for (unsigned seed = 1; seed <= 12; ++seed) {
+        std::mt19937 random(seed);
+        std::string stream;
+        while (stream.size() < 20'000) {
+            const auto value = static_cast<unsigned>(random());
+            switch (value % 4) {
+            case 0:
+                stream += static_cast<char>(value >> 8U);
+                break;
+            case 1: // a piece of good commands, cut off anywhere
+                stream += known.substr((value >> 8U) % known.size(), (value >> 24U) % 32);
+                break;
+            default:
+                stream += leads[(value >> 8U) % leads.size()];
+            }
+        }
+        // The tail puts an end to whatever the noise has begun.
+        stream += std::string(70'000, '\0') + bytes("1B 40 'still alive' 0A");
+        draw(stream, seed % 2 == 0 ? "VANTA" : "VOLTA", testGraphic());
+        std::string all;
+        for (const auto& entry : std::filesystem::directory_iterator(folder_)) {
+            if (entry.path().extension() == ".txt") {
+                all += file(entry.path().filename().c_str());
+            }
+        }
+        EXPECT_NE(all.find("still alive\n"), std::string::npos) << "seed " << seed;
+    }
+    rusage usage{};
+    getrusage(RUSAGE_SELF, &usage);
+    EXPECT_LT(usage.ru_maxrss / 1024, 256 * Q7_SLOWNESS) << "megabytes";
+}
+
+#if defined(__SANITIZE_ADDRESS__)
+// Qt's off-screen plugin keeps its screen when the application ends.
+extern "C" const char* __lsan_default_suppressions() // NOLINT(bugprone-reserved-identifier)
+{
+    return "leak:libqoffscreen\nleak:QWindowSystemInterface\nleak:QPlatformScreen\n";
+}
+#endif
+
+int main(int argc, char** argv)
+{
+    testing::InitGoogleTest(&argc, argv);
+    const OffscreenApplication application;
+    return RUN_ALL_TESTS();
+}

@@ -114,6 +114,10 @@ struct QrDialect {
     const char* model;
     std::string stream;
 };
+void PrintTo(const QrDialect& row, std::ostream* out)
+{
+    *out << row.model;
+}
 
 class QrDialects : public Drawing, public testing::WithParamInterface<QrDialect>
 {

@@ -27,6 +27,10 @@ struct Stream {
     std::string bytes;
     std::vector<std::string> commands;
 };
+void PrintTo(const Stream& row, std::ostream* out)
+{
+    *out << row.name;
+}
 
 class Parsing : public testing::TestWithParam<Stream>
 {

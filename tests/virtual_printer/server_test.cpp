@@ -90,6 +90,10 @@ struct Query {
     std::string query;
     std::string answer;
 };
+void PrintTo(const Query& row, std::ostream* out)
+{
+    *out << row.name;
+}
 
 class Answers : public testing::TestWithParam<Query>
 {

@@ -82,6 +82,10 @@ struct Layout {
     std::string stream;
     Lines lines;
 };
+void PrintTo(const Layout& row, std::ostream* out)
+{
+    *out << row.name;
+}
 
 class Positions : public testing::TestWithParam<Layout>
 {

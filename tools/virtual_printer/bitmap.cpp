@@ -15,10 +15,26 @@ Bitmap::Bitmap(int widthDots, int heightDots)
 
 void Bitmap::fill(int x, int y, int widthDots, int heightDots, bool black)
 {
+    const int left = std::max(x, 0);
+    const int right = std::min(x + widthDots, width_);
+    if (left >= right) {
+        return;
+    }
+    const std::uint8_t leftMask = static_cast<std::uint8_t>(0xFFU >> (left % 8));
+    const std::uint8_t rightMask = static_cast<std::uint8_t>(0xFF00U >> ((right - 1) % 8 + 1));
+    const auto apply = [black](std::uint8_t& byte, std::uint8_t mask) {
+        byte = static_cast<std::uint8_t>(black ? byte | mask : byte & ~mask);
+    };
     for (int row = std::max(y, 0); row < std::min(y + heightDots, height_); ++row) {
-        for (int column = std::max(x, 0); column < std::min(x + widthDots, width_); ++column) {
-            set(column, row, black);
+        std::uint8_t* first = bits_.data() + byteOf(left, row);
+        std::uint8_t* last = bits_.data() + byteOf(right - 1, row);
+        if (first == last) {
+            apply(*first, leftMask & rightMask);
+            continue;
         }
+        apply(*first, leftMask);
+        std::fill(first + 1, last, static_cast<std::uint8_t>(black ? 0xFF : 0));
+        apply(*last, rightMask);
     }
 }
 

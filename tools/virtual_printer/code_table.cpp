@@ -25,7 +25,7 @@ constexpr unsigned kCodeTable858 = 19;
 
 bool hasCodeTable(unsigned table)
 {
-    return table == kPowerOnCodeTable || table == 2 || table == 3 || table == kCodeTable1252 ||
+    return table == kCodeTable437 || table == 2 || table == 3 || table == kCodeTable1252 ||
            table == kCodeTable858;
 }
 

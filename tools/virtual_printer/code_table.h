@@ -10,8 +10,7 @@
 namespace virtual_printer
 {
 
-/** The table after a reset: PC437. */
-constexpr unsigned kPowerOnCodeTable = 0;
+constexpr unsigned kCodeTable437 = 0;
 /** Latin-1 with the further letters of Windows 1252. */
 constexpr unsigned kCodeTable1252 = 16;
 

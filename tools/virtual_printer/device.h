@@ -18,6 +18,7 @@ struct Model {
     /** In page mode a symbol stands on the line of text at the print position (its foot is that
      *  line's foot); otherwise it hangs from the print position. */
     bool symbolsStandOnLine;
+    unsigned powerOnCodeTable = 0; /**< in force until ESC t, and again after ESC @ */
 
     [[nodiscard]] int widthDots() const { return columnsFontA * 12; }
 };

@@ -80,7 +80,8 @@ void drawLog(const Options& options, const Workshop& workshop)
     int number = 0;
     for (const LoggedJob& logged : jobs) {
         const Model* named = options.modelChosen ? nullptr : findModel(logged.model);
-        const Model& model = named != nullptr ? *named : options.server.model;
+        Model model = named != nullptr ? *named : options.server.model;
+        model.powerOnCodeTable = options.powerOnCodeTable;
         FileJob job(workshop, model, ++number);
         runJob(job, logged.bytes, model);
     }

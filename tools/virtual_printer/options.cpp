@@ -1,5 +1,7 @@
 #include "options.h"
 
+#include "code_table.h"
+
 #include <functional>
 #include <stdexcept>
 
@@ -23,6 +25,8 @@ No link
 Printer
   --model NAME        VANTA (the default) or another model
   --state NAME        paper-out, near-end, cover-open, drawer-open or sensor; may be repeated
+  --code-table N      code table in force after a reset: 0 (PC437, the default), 2 (PC850),
+                      3 (PC860), 16 (Windows 1252) or 19 (PC858)
   --graphic KEY=FILE  store the image FILE under the two characters KEY; may be repeated
   --font FILE         monospaced font to draw with instead of DejaVu Sans Mono
 Misbehaviour
@@ -140,6 +144,7 @@ Options parseOptions(const std::vector<std::string>& arguments)
               }
               options.graphicFiles[value.substr(0, 2)] = value.substr(3);
           }}},
+        {"--code-table", number(options.powerOnCodeTable, 255)},
         {"--font", text(options.fontFile)},
         {"--silent", flag(behaviour.silent)},
         {"--late", number(behaviour.lateMs)},
@@ -168,6 +173,10 @@ Options parseOptions(const std::vector<std::string>& arguments)
         }
         option->second.apply(name, value);
     }
+    if (!hasCodeTable(options.powerOnCodeTable)) {
+        throw UsageError{"the code tables are 0, 2, 3, 16 and 19"};
+    }
+    server.model.powerOnCodeTable = options.powerOnCodeTable;
     return options;
 }
 

@@ -15,6 +15,7 @@ namespace virtual_printer
 struct Options {
     ServerSettings server;
     bool modelChosen = false;
+    unsigned powerOnCodeTable = 0;
     std::string portFile;
     int jobs = 0;
     std::string input;    /**< file of printer bytes to draw instead of serving */

@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <deque>
 #include <system_error>
+#include <utility>
 #include <vector>
 
 #include <arpa/inet.h>
@@ -89,8 +90,8 @@ Server::Server(const ServerSettings& settings, JobMaker maker)
 Server::~Server()
 {
     for (Connection& connection : connections_) {
+        connection.gone = true;
         end(connection);
-        close(connection.fd);
     }
     for (const int fd : {listener_, wakeRead_, wakeWrite_}) {
         if (fd >= 0) {
@@ -226,7 +227,6 @@ void Server::run(int jobs)
             sendDue(*connection);
             sendUnasked(*connection);
             if (connection->gone) {
-                close(connection->fd);
                 connection = connections_.erase(connection);
             } else {
                 ++connection;
@@ -268,6 +268,11 @@ void Server::begin(Connection& connection)
 
 void Server::end(Connection& connection)
 {
+    if (!connection.serial || connection.gone) {
+        // Drawing may take its time; whoever waits for the printer to hang up must not.
+        connection.gone = true;
+        close(std::exchange(connection.fd, -1));
+    }
     if (connection.job) {
         connection.parser->finish();
         connection.job->ended();
@@ -277,7 +282,6 @@ void Server::end(Connection& connection)
     }
     connection.outgoing.clear();
     connection.nextUnasked = Clock::time_point::max();
-    connection.gone = connection.gone || !connection.serial;
 }
 
 Server::Reading Server::readFrom(Connection& connection)

@@ -36,6 +36,7 @@ Typesetter::Typesetter(const Model& model, Glyphs& glyphs, const Graphics& graph
       paper_(paper),
       remarks_(std::move(remarks))
 {
+    settings_.codeTable = model_.powerOnCodeTable;
 }
 
 void Typesetter::command(const Command& command)
@@ -262,6 +263,7 @@ void Typesetter::reset()
     throwAway("the reset");
     leavePage();
     settings_ = Settings();
+    settings_.codeTable = model_.powerOnCodeTable;
 }
 
 // ------------------------------------------------------------------ position

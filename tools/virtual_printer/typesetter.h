@@ -52,7 +52,7 @@ private:
     /** What ESC @ sets back. */
     struct Settings {
         Style style;
-        unsigned codeTable = kPowerOnCodeTable;
+        unsigned codeTable = 0;
         unsigned alignment = 0;
         int lineSpacing = 30;
         int characterSpacing = 0;

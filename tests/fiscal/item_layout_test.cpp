@@ -50,15 +50,6 @@ TEST(CfeItems, AmountEndsAtTheRightMargin)
     EXPECT_EQ(lineOf(cfeItem("LEITE"), -1, -1), "1 101 LEITE 0.4800 KG X 18.909.07");
 }
 
-TEST(CfeItems, Header)
-{
-    EXPECT_EQ(q7::cfeItemHeader(64),
-              "#| COD | DESC | QTD | UN | VL UN R$ | (VL TR R$)* | VL   ITEM R$");
-    for (const int width : {56, -1})
-        EXPECT_EQ(q7::cfeItemHeader(width),
-                  "#| COD | DESC | QTD | UN |VL UN R$|(VL TR R$)|VL ITEM R$");
-}
-
 TEST(NfceItems, HeaderFillsTheLineUnlessThePaperHasNone)
 {
     for (const int width : {64, 56}) {

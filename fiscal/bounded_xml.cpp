@@ -10,7 +10,7 @@ namespace
 
 constexpr int maxElementDepth = 256;
 constexpr int maxParenthesisDepth = 256;
-constexpr int maxEntities = 256;
+constexpr int maxEntities = 256; // references among them counted too
 constexpr int maxEntityChars = 64 * 1024;
 
 // Whether a reference's name cannot go on here. Characters that no name holds may pass: such a name
@@ -50,8 +50,9 @@ public:
     bool declare(const QString& name, const QString& text)
     {
         const bool isParameter = name.startsWith(QLatin1Char('%'));
+        m_declared += 1 + text.count(QLatin1Char('&'));
         m_declaredChars += name.size() + text.size();
-        if (m_texts.size() == maxEntities || m_declaredChars > maxEntityChars ||
+        if (m_declared > maxEntities || m_declaredChars > maxEntityChars ||
             leavesReferenceOpen(text, QLatin1Char('&')) ||
             (isParameter && leavesReferenceOpen(text, QLatin1Char('%'))) ||
             // Would reach the reader past the source that counts parentheses.
@@ -111,6 +112,7 @@ private:
 
     QHash<QString, QString> m_texts; // by reference
     QHash<QString, int> m_costs;     // by reference, as far as they were asked for
+    int m_declared = 0;
     int m_declaredChars = 0;
     int m_usedChars = 0;
 };

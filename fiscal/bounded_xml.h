@@ -12,7 +12,7 @@ namespace q7
  *  An empty document when the text does not parse, or when it goes beyond what a fiscal document
  *  can need and Qt's reader would pay for with its caller's stack, memory or time: elements nested
  *  deeper than 256, entities that expand to more than 64 KB in all (attribute values included),
- *  more than 256 entities, content models in more than 256 parentheses. */
+ *  more than 256 entities and references among them, content models in more than 256 parentheses. */
 QDomDocument readXml(const QByteArray& text);
 
 } // namespace q7

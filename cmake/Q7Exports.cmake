@@ -52,4 +52,5 @@ function(q7_export_decorated target list_file components)
         DEPENDS ${definition}
         VERBATIM)
     add_custom_target(${target}_import_library ALL DEPENDS ${import_library})
+    set_target_properties(${target} PROPERTIES Q7_IMPORT_LIBRARY ${import_library})
 endfunction()

@@ -7,5 +7,5 @@ set_target_properties(Q7_Impressora PROPERTIES PREFIX "")
 if(MINGW)
     # The compiler's runtime and threads inside; applications bring none of their own.
     target_link_options(Q7_Impressora PRIVATE
-        -static -Wl,--gc-sections $<$<CONFIG:Release>:-s>)
+        -static -Wl,--gc-sections -Wl,--no-insert-timestamp $<$<CONFIG:Release>:-s>)
 endif()

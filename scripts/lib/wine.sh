@@ -1,0 +1,77 @@
+# A 32-bit Wine, the system's own or one in an i386 Debian tree of its own. Sourced after debian.sh.
+#
+#   prepare_wine          makes it ready; ends the script as unavailable when the archive lacks it
+#   in_wine COMMAND...    runs a command where `wine` is, with paths as outside
+
+wine_tree=$(cache_folder)/wine-i386
+
+# Only a Wine that brings 32-bit libraries runs the DLL; Debian's `wine` alone may be 64-bit.
+has_system_wine() {
+    command -v wine >/dev/null && [ -e /usr/lib/i386-linux-gnu/wine/i386-windows/kernel32.dll ]
+}
+
+# The archive that this machine itself uses, as one base address.
+archive_address() {
+    apt-get indextargets --format '$(REPO_URI)|$(RELEASE)' \
+        'Created-By: Packages' 'Origin: Debian' 'Component: main' |
+        sed -n 's/|bookworm$//p' | head -n 1
+}
+
+# The tree's own mounts live in a mount namespace of the command and vanish with it.
+in_tree() {
+    unshare --mount --fork --kill-child bash -c '
+        set -e
+        tree=$1 root=$2
+        shift 2
+        mount --rbind /proc "$tree/proc"
+        mount --rbind /dev "$tree/dev"
+        for folder in "$root" /tmp; do
+            mkdir -p "$tree$folder"
+            mount --rbind "$folder" "$tree$folder"
+        done
+        exec chroot "$tree" /usr/bin/env -C "$PWD" "$@"' in_tree "$wine_tree" "$PWD" "$@"
+}
+
+make_wine_tree() {
+    install_packages debootstrap
+    mkdir -p "$wine_tree"
+    exec 8>"$wine_tree.lock"
+    flock 8
+    if [ ! -e "$wine_tree.installed" ]; then
+        local archive log=$wine_tree.log
+        archive=$(archive_address)
+        [ -n "$archive" ] || { apt-get update -q >/dev/null 2>&1 && archive=$(archive_address); }
+        [ -n "$archive" ] || unavailable "a Debian 12 archive in this machine's configuration"
+        say "making an i386 Debian tree for Wine (about two minutes, once): $wine_tree"
+        rm -rf --one-file-system "$wine_tree"
+        mkdir -p "$wine_tree"
+        local proxy
+        proxy=$(apt-config dump --format '%v' Acquire::http::Proxy)
+        ${proxy:+env http_proxy="$proxy"} debootstrap --arch=i386 --variant=minbase \
+            bookworm "$wine_tree" "$archive" >"$log" 2>&1 || {
+            tail -n 5 "$log" >&2
+            unavailable "an i386 Debian tree"
+        }
+        apt-config dump Acquire::http::Proxy >"$wine_tree/etc/apt/apt.conf.d/90proxy"
+        cp /etc/resolv.conf /etc/hosts "$wine_tree/etc/"
+        say "installing Wine in it"
+        in_tree sh -c 'export DEBIAN_FRONTEND=noninteractive
+            apt-get update -q && apt-get install -q -y --no-install-recommends wine wine32' \
+            >>"$log" 2>&1 || {
+            tail -n 5 "$log" >&2
+            unavailable "the packages wine and wine32 for i386"
+        }
+        touch "$wine_tree.installed"
+    fi
+    flock -u 8
+}
+
+prepare_wine() {
+    if has_system_wine; then
+        in_wine() { "$@"; }
+    else
+        [ "$(id -u)" -eq 0 ] || fail "run as root, or install a 32-bit Wine first"
+        make_wine_tree
+        in_wine() { in_tree "$@"; }
+    fi
+}

@@ -22,18 +22,18 @@ static void must(int done, const char* what)
 /* What tells the system that the device is plugged in. */
 static void setLinked(const char* devicePath)
 {
-    char key[500];
+    char name[500];
     /* The interface's key is named like its path, with "#" for the backslashes at its start. */
-    snprintf(key, sizeof key,
+    snprintf(name, sizeof name,
              "SYSTEM\\CurrentControlSet\\Control\\DeviceClasses\\" CLASS_TEXT
              "\\##?#%s\\#\\Control",
              devicePath + 4);
-    HKEY control = NULL;
+    HKEY key = NULL;
     const DWORD linked = 1;
-    must(RegCreateKeyExA(HKEY_LOCAL_MACHINE, key, 0, NULL, 0, KEY_WRITE, NULL, &control, NULL) == 0,
-         "control key");
-    RegSetValueExA(control, "Linked", 0, REG_DWORD, (const BYTE*)&linked, sizeof linked);
-    RegCloseKey(control);
+    must(RegCreateKeyExA(HKEY_LOCAL_MACHINE, name, 0, NULL, 0, KEY_WRITE, NULL, &key, NULL) == 0,
+         name);
+    RegSetValueExA(key, "Linked", 0, REG_DWORD, (const BYTE*)&linked, sizeof linked);
+    RegCloseKey(key);
 }
 
 int main(int argc, char** argv)

@@ -145,7 +145,8 @@ TEST_P(Families, SendAnswerAndLog)
         data.takeLog();
         EXPECT_EQ(row.result, call()) << row.name;
         const Lines log = data.takeLog();
-        tcp->waitForBytes(before + row.bytes.size()); // no later call pushes them
+        const std::size_t end = before + row.bytes.size();
+        EXPECT_EQ(end, tcp->waitForBytes(end).size()); // no later call pushes them
         EXPECT_TRUE(sameBytes(row.bytes, takeSent()));
         const auto isCall = [](const std::string& line) { return line.rfind("FUNCAO ", 0) == 0; };
         const auto first = std::find_if(log.begin(), log.end(), isCall);

@@ -356,8 +356,8 @@ Q7_API void Q7_CALL PrinterCreatorS(void* handle, const char* model);
 Q7_API int Q7_CALL PrinterDestroy(void* handle);
 
 /** Opens the connection: AbreConexaoImpressora with the model of PrinterCreator.
- *  text: fields apart by "," or "_"; a "_" inside a host name or path separates too. The first
- *    field contains, in any letter case, one of
+ *  text: fields separated by "," or "_", so that neither may stand in a host name or path. The
+ *    first field contains, in any letter case, one of
  *    "COM": the first field is the serial port, the second the bits per second: "COM3,9600";
  *    "NET": the second is the host, the third the TCP port, 9100 where it is missing or empty:
  *      "NET,192.168.0.10,9100";

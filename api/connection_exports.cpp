@@ -79,7 +79,7 @@ int Q7_CALL AbreConexaoImpressora(int tipo, const char* modelo, const char* cone
 
 int Q7_CALL FechaConexaoImpressora(void)
 {
-    return runSetting({"FechaConexaoImpressora"}, std::tuple(), [](PrinterSession& printerSession) {
+    return runSetting({"FechaConexaoImpressora"}, noArguments, [](PrinterSession& printerSession) {
         printerSession.lastResult = printerSession.connection->close();
         printerSession.escreverLer.reset();
         printerSession.connection.reset();

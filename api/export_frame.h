@@ -86,6 +86,9 @@ inline QString logForm(const QString& argument)
     return argument;
 }
 
+/** What an export without arguments logs. */
+inline constexpr std::tuple<> noArguments;
+
 /** Logs an export's name and its arguments, joined by ",". */
 template <typename... Arguments>
 void logCall(const ExportName& name, const std::tuple<Arguments...>& arguments)
@@ -93,12 +96,9 @@ void logCall(const ExportName& name, const std::tuple<Arguments...>& arguments)
     if (!logIsOn())
         return;
     QString text;
-    std::apply(
-        [&text](const auto&... argument) {
-            bool first = true;
-            ((text += (first ? QString() : QString(',')) + logForm(argument), first = false), ...);
-        },
-        arguments);
+    std::apply([&text](const auto&... argument) { ((text += logForm(argument) + ','), ...); },
+               arguments);
+    text.chop(1); // the last comma
     logExportLine(name, name.callLabel, text);
 }
 

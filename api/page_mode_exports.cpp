@@ -10,7 +10,7 @@ namespace
 
 int runFixedCommand(const ExportName& name, const QByteArray& command)
 {
-    return runSend(name, std::tuple(),
+    return runSend(name, noArguments,
                    [&](PrinterSession& printerSession) { return printerSession.send(command); });
 }
 
@@ -18,7 +18,7 @@ int runFixedCommand(const ExportName& name, const QByteArray& command)
 
 int Q7_CALL ModoPagina(void)
 {
-    return runSend({"ModoPagina"}, std::tuple(), [](PrinterSession& printerSession) {
+    return runSend({"ModoPagina"}, noArguments, [](PrinterSession& printerSession) {
         const int sent = printerSession.send(CMD_PAGE_MODE);
         printerSession.pageMode = true; // for good: nothing takes it back
         return sent;

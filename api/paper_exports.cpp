@@ -41,7 +41,7 @@ int Q7_CALL AbreGaveta(int pino, int ti, int tf)
 
 int Q7_CALL AbreGavetaTavlo(void)
 {
-    return runSend({"AbreGavetaTavlo"}, std::tuple(), [](PrinterSession& printerSession) {
+    return runSend({"AbreGavetaTavlo"}, noArguments, [](PrinterSession& printerSession) {
         return printerSession.send(CMD_DRAWER_DEFAULT);
     });
 }

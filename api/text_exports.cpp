@@ -86,6 +86,6 @@ int Q7_CALL DefinePosicao(int posicao)
 
 int Q7_CALL InicializaImpressora(void)
 {
-    return runSend({"InicializaImpressora"}, std::tuple(),
+    return runSend({"InicializaImpressora"}, noArguments,
                    [](PrinterSession& printerSession) { return printerSession.send(CMD_INIT); });
 }

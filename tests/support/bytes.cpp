@@ -17,7 +17,7 @@ enum class Tail {
     LengthWord, // pL pH, then so many bytes
     LengthByte, // m n, then n bytes
     ToZero,     // up to a zero byte and with it
-    BemaQr,     // five bytes of which the last two are a length, then the data
+    BemaQr,     // five bytes of which the last two are a length, 3 more than the data that follow
 };
 
 struct Command {
@@ -125,7 +125,7 @@ std::size_t lengthOf(const Command& command, std::string_view bytes, std::size_t
         length = withData(2, at(1));
         break;
     case Tail::BemaQr:
-        length = withData(5, at(3) + 256 * at(4));
+        length = withData(5, std::max<std::size_t>(at(3) + 256 * at(4), 3) - 3);
         break;
     case Tail::ToZero:
         length = withData(0, std::min(bytes.find('\0', head), bytes.size() - 1) + 1 - head);

@@ -9,7 +9,7 @@ TEST(TestBytes, LinesReadBackAsTheSameBytes)
 {
     std::string all =
         hex("1B 40  1B 61 01  1D 6B 49 03 7B 43 0C  1D 28 6B 08 00 31 50 30 41 42 43 44 45"
-            "1D 6B 0B 48 41 2C 61 62 63 64 00  1D 6B 51 00 06 0E 01 04 00 61 62 63 64"
+            "1D 6B 0B 48 41 2C 61 62 63 64 00  1D 6B 51 00 06 0E 01 07 00 61 62 63 64"
             "1B 70 31 32");
     for (int byte = 0; byte < 256; ++byte)
         all += static_cast<char>(byte);

@@ -1,0 +1,175 @@
+#include "nfce_document.h"
+
+#include "formatters.h"
+#include "log.h"
+#include "payment_methods.h"
+
+namespace q7
+{
+namespace
+{
+
+// Steps of the reading, as the trace in the log counts them.
+constexpr int consultationStep = 3;
+constexpr int stepCount = 29;
+
+void trace(const char* what)
+{
+    writeLog(LogKind::Information, QLatin1String("\n\n=========================\nTESTE ") + what +
+                                       QString(57, QLatin1Char('.')) + QLatin1Char('\n'));
+}
+
+// Groups of four digits from the end on, each with a blank behind it: the eleven of an access key.
+QString withKeyGrouped(QString text)
+{
+    int end = text.size();
+    for (int group = 0; group < 11 && end >= 0; ++group, end -= 4)
+        text.insert(end, QLatin1Char(' '));
+    return text;
+}
+
+QString childText(const QDomNode& parent, const char* name)
+{
+    return textOf(parent.namedItem(QLatin1String(name)));
+}
+
+NfceItem readItem(const QDomNode& det)
+{
+    const QDomNode prod = det.namedItem("prod");
+    NfceItem item;
+    item.code = childText(prod, "cProd");
+    item.description = childText(prod, "xProd");
+    item.quantity = childText(prod, "qCom");
+    item.unit = childText(prod, "uCom");
+    item.unitPrice = childText(prod, "vUnCom");
+    item.amount = childText(prod, "vProd");
+    item.gtin = childText(prod, "cEAN");
+    item.number = det.toElement().attribute("nItem");
+    return item;
+}
+
+} // namespace
+
+NfceDocument::NfceDocument(const FiscalXmlDocument& xml) : FiscalXmlDocument(xml)
+{
+    const int endedAt = readFields();
+    writeLog(LogKind::Information,
+             "=========================TERMINO CONSTROI OBJ.......................\n");
+    // As a character of that code. Odd, and what the log has always had.
+    writeLog(LogKind::Information, QChar(endedAt + 1));
+}
+
+QString NfceDocument::addressOf(int ibgeNumber, NfceAddressKind kind) const
+{
+    return nfceAddress(ibgeNumber, kind, environment.toInt() == 1);
+}
+
+// Returns the step that failed, or the count of steps.
+int NfceDocument::readFields()
+{
+    number = fieldAt("ide|nNF");
+    series = fieldAt("ide|serie");
+    issueDateTime = fieldAt("ide|dhEmi");
+    trace("CASE2 OK");
+    if (!readConsultationBlock())
+        return consultationStep;
+    emissionType = fieldAt("ide|tpEmis");
+    readIssuer();
+    readRecipient();
+    readItems();
+    readTotals();
+    readPayments();
+    change = fieldAt("pag|vTroco");
+    protocolNumber = textAt("nfeProc|protNFe|infProt|nProt");
+    authorisationDateTime = textAt("nfeProc|protNFe|infProt|dhRecbto");
+    fiscalRemarks = fieldAt("infAdic|infAdFisco");
+    taxpayerRemarks = fieldAt("infAdic|infCpl");
+    approximateTaxes = fieldAt("total|ICMSTot|vTotTrib");
+    digestValue = textAt("nfeProc|NFe|Signature|SignedInfo|Reference|DigestValue");
+    return stepCount;
+}
+
+bool NfceDocument::readConsultationBlock()
+{
+    const QString keyUrl = textAt("nfeProc|NFe|infNFeSupl|urlChave");
+    if (!keyUrl.isEmpty()) {
+        accessKey = attributeAt("nfeProc|NFe|infNFe|Id").mid(3, 44); // behind "NFe"
+        consultationBlock = withKeyGrouped(keyUrl + QLatin1Char('\n') + accessKey);
+        trace("CASE3 OK");
+        return true;
+    }
+
+    environment = keyUrl;
+    writeLog(LogKind::Information, consultationBlock);
+    // The state is looked for in a block that is not there yet, so no address is ever found and a
+    // note without urlChave ends here. Callers know it by the refusal.
+    const QString address =
+        addressOf(consultationBlock.left(2).toInt(), NfceAddressKind::Consultation);
+    if (address.isEmpty()) {
+        trace("CASE3 FALSE");
+        return false;
+    }
+    consultationBlock = withKeyGrouped(address + QLatin1Char('\n') + consultationBlock);
+    trace("CASE3 OK 2");
+    return true;
+}
+
+void NfceDocument::readIssuer()
+{
+    const QLatin1Char blank(' ');
+    issuerCnpjLine = "CNPJ " + formatCnpj(fieldAt("emit|CNPJ"));
+    issuerName = fieldAt("emit|xNome");
+    issuerAddress = fieldAt("emit|enderEmit|xLgr") + ", " + fieldAt("emit|enderEmit|nro") + blank +
+                    fieldAt("emit|enderEmit|xCpl") + blank + fieldAt("emit|enderEmit|xBairro") +
+                    blank + fieldAt("emit|enderEmit|xMun") + blank + fieldAt("emit|enderEmit|UF");
+    issuerIe = fieldAt("emit|IE");
+}
+
+void NfceDocument::readRecipient()
+{
+    const QString cnpj = fieldAt("dest|CNPJ");
+    if (!cnpj.isEmpty())
+        recipientCnpj = formatCnpj(cnpj);
+    const QString cpf = fieldAt("dest|CPF");
+    if (!cpf.isEmpty())
+        recipientCpf = formatCpf(cpf);
+    recipientForeignId = fieldAt("dest|idEstrangeiro");
+    recipientName = fieldAt("dest|xNome");
+    // The place of delivery alone, also where there is none: the recipient's own, enderDest, has
+    // never been printed.
+    const QLatin1Char blank(' ');
+    recipientAddress = (fieldAt("entrega|xLgr") + blank + fieldAt("entrega|nro") + blank +
+                        fieldAt("entrega|xCpl") + blank + fieldAt("entrega|xBairro") + blank +
+                        fieldAt("entrega|xMun") + blank + fieldAt("entrega|UF"))
+                           .trimmed();
+}
+
+void NfceDocument::readItems()
+{
+    const QDomNodeList dets = listAt("nfeProc|NFe|infNFe|det");
+    items.reserve(static_cast<std::size_t>(dets.length()));
+    for (int i = 0; i < dets.length(); ++i)
+        items.push_back(readItem(dets.item(i)));
+}
+
+void NfceDocument::readTotals()
+{
+    freight = fieldAt("total|ICMSTot|vFrete");
+    insurance = fieldAt("total|ICMSTot|vSeg");
+    discount = fieldAt("total|ICMSTot|vDesc");
+    otherCharges = fieldAt("total|ICMSTot|vOutro");
+    total = fieldAt("total|ICMSTot|vNF");
+}
+
+void NfceDocument::readPayments()
+{
+    const QDomNodeList parts = listAt("nfeProc|NFe|infNFe|pag|detPag");
+    QString name;
+    for (int i = 0; i < parts.length(); ++i) {
+        const QDomNode part = parts.item(i);
+        name = paymentMethodName(childText(part, "tPag"), name);
+        payments.push_back({name, amountOf(childText(part, "vPag"))});
+    }
+}
+
+} // namespace q7

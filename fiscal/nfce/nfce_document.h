@@ -1,0 +1,76 @@
+// An NFC-e of layout 4.00, read for its receipt.
+#pragma once
+
+#include "item_records.h"
+#include "nfce_addresses.h"
+#include "xml_document.h"
+
+#include <vector>
+
+namespace q7
+{
+
+struct NfcePayment {
+    QString name;  // of the method
+    double amount; // 0 when the field is no number
+};
+
+/** Read once when made, and only read from then on. Texts as written in the XML unless said
+ *  otherwise, empty where the element is missing. */
+class NfceDocument : public FiscalXmlDocument
+{
+public:
+    /** Reads the fields in a fixed order, of which it leaves traces in the log. A note without
+     *  urlChave is not read beyond its date: everything from emissionType on stays empty. */
+    explicit NfceDocument(const FiscalXmlDocument& xml);
+
+    /** The address of a state, in this note's environment. */
+    QString addressOf(int ibgeNumber, NfceAddressKind kind) const;
+
+    QString number;
+    QString series;
+    QString issueDateTime;
+    // Nothing in a note fills it, not even tpAmb: state addresses are those of homologation where a
+    // state has two, and built QR codes have nothing in its place. Notes rely on their ready texts.
+    QString environment;
+    QString emissionType;   // "1" normal, anything else contingency
+    QString issuerCnpjLine; // "CNPJ NN.NNN.NNN/NNNN-NN"
+    QString issuerName;
+    QString issuerAddress; // in one line, not trimmed
+    QString issuerIe;
+    QString recipientCnpj; // NN.NNN.NNN/NNNN-NN
+    QString recipientCpf;  // NNN.NNN.NNN-NN
+    QString recipientForeignId;
+    QString recipientName;
+    QString recipientAddress; // the place of delivery, in one line
+    std::vector<NfceItem> items;
+    std::vector<NfcePayment> payments;
+    QString freight;
+    QString insurance;
+    QString discount;
+    QString otherCharges;
+    QString total;
+    QString change;
+    QString accessKey;         // 44 digits
+    QString consultationBlock; // consultation address, line feed, the key in groups of four
+    QString protocolNumber;
+    QString authorisationDateTime;
+    QString fiscalRemarks;
+    QString taxpayerRemarks;
+    QString approximateTaxes;
+    QString digestValue; // base64
+
+private:
+    /** A field below infNFe. */
+    QString fieldAt(const FieldPath& path) const { return textAt("nfeProc|NFe|infNFe|" + path); }
+
+    int readFields();
+    bool readConsultationBlock();
+    void readIssuer();
+    void readRecipient();
+    void readItems();
+    void readTotals();
+    void readPayments();
+};
+
+} // namespace q7

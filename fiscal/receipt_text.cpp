@@ -39,4 +39,11 @@ QString groupsOfFour(const QString& key)
     return text;
 }
 
+QString blankAfterEveryFour(QString key)
+{
+    for (int i = 4; i <= key.size(); i += 5)
+        key.insert(i, QLatin1Char(' '));
+    return key;
+}
+
 } // namespace q7

@@ -32,4 +32,8 @@ QString labelAndValue(const QString& label, const QString& value, int columns);
 /** A blank before every group of four characters after the first: "1234 5678 9". */
 QString groupsOfFour(const QString& key);
 
+/** A blank behind every group of four characters, the last one too when it is whole: "1234 5678 9",
+ *  "1234 5678 ". */
+QString blankAfterEveryFour(QString key);
+
 } // namespace q7

@@ -118,6 +118,15 @@ void sale(benchmark::State& state, bool withLog)
         ImprimeXMLSAT(xml.c_str(), 0);
 }
 
+void note(benchmark::State& state, bool withLog)
+{
+    const std::string xml = noteXml(static_cast<int>(state.range(0)));
+    const ConnectedPrinter printer(withLog);
+    for (auto _ : state)
+        if (ImprimeXMLNFCe(xml.c_str(), 1, "", 0) != 0)
+            std::abort();
+}
+
 void rawWrites(benchmark::State& state)
 {
     const std::vector<std::string> sends = receiptSends();
@@ -145,25 +154,20 @@ void rawWrites(benchmark::State& state)
     ::close(link);
 }
 
+void forItemCounts(benchmark::internal::Benchmark* measured)
+{
+    measured->Arg(1)->Arg(10)->Arg(100)->Arg(990)->Unit(benchmark::kMicrosecond);
+}
+
 } // namespace
 
 BENCHMARK(rawWrites)->Name("RawWrites")->Unit(benchmark::kMicrosecond);
 BENCHMARK_CAPTURE(receipt, off, false)->Name("Receipt/log_off")->Unit(benchmark::kMicrosecond);
 BENCHMARK_CAPTURE(receipt, on, true)->Name("Receipt/log_on")->Unit(benchmark::kMicrosecond);
 
-BENCHMARK_CAPTURE(sale, off, false)
-    ->Name("Sale/log_off")
-    ->Arg(1)
-    ->Arg(10)
-    ->Arg(100)
-    ->Arg(990)
-    ->Unit(benchmark::kMicrosecond);
-BENCHMARK_CAPTURE(sale, on, true)
-    ->Name("Sale/log_on")
-    ->Arg(1)
-    ->Arg(10)
-    ->Arg(100)
-    ->Arg(990)
-    ->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(sale, off, false)->Name("Sale/log_off")->Apply(forItemCounts);
+BENCHMARK_CAPTURE(sale, on, true)->Name("Sale/log_on")->Apply(forItemCounts);
+BENCHMARK_CAPTURE(note, off, false)->Name("Note/log_off")->Apply(forItemCounts);
+BENCHMARK_CAPTURE(note, on, true)->Name("Note/log_on")->Apply(forItemCounts);
 
 BENCHMARK_MAIN();

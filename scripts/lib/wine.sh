@@ -12,9 +12,8 @@ has_system_wine() {
 
 # The archive that this machine itself uses, as one base address.
 archive_address() {
-    apt-get indextargets --format '$(REPO_URI)|$(RELEASE)' \
-        'Created-By: Packages' 'Origin: Debian' 'Component: main' |
-        sed -n 's/|bookworm$//p' | head -n 1
+    apt-get indextargets --format '$(REPO_URI)' 'Created-By: Packages' 'Origin: Debian' \
+        'Codename: bookworm' 'Component: main' | sed -n 1p
 }
 
 # The tree's own mounts live in a mount namespace of the command and vanish with it.
@@ -32,35 +31,38 @@ in_tree() {
         exec chroot "$tree" /usr/bin/env -C "$PWD" "$@"' in_tree "$wine_tree" "$PWD" "$@"
 }
 
+# tree_failed WHAT PATTERN: ends the script; a log that matches tells that the archive was at fault.
+tree_failed() {
+    tail -n 5 "$wine_tree.log" >&2
+    if grep -qE "$2" "$wine_tree.log"; then unavailable "$1"; fi
+    fail "could not make $1: $wine_tree.log"
+}
+
 make_wine_tree() {
     install_packages debootstrap
     mkdir -p "$wine_tree"
     exec 8>"$wine_tree.lock"
     flock 8
     if [ ! -e "$wine_tree.installed" ]; then
-        local archive log=$wine_tree.log
+        local archive log=$wine_tree.log proxy
         archive=$(archive_address)
         [ -n "$archive" ] || { apt-get update -q >/dev/null 2>&1 && archive=$(archive_address); }
         [ -n "$archive" ] || unavailable "a Debian 12 archive in this machine's configuration"
         say "making an i386 Debian tree for Wine (about two minutes, once): $wine_tree"
         rm -rf --one-file-system "$wine_tree"
         mkdir -p "$wine_tree"
-        local proxy
         proxy=$(apt-config dump --format '%v' Acquire::http::Proxy)
-        ${proxy:+env http_proxy="$proxy"} debootstrap --arch=i386 --variant=minbase \
-            bookworm "$wine_tree" "$archive" >"$log" 2>&1 || {
-            tail -n 5 "$log" >&2
-            unavailable "an i386 Debian tree"
-        }
+        # In a mount namespace too: an interrupted run leaves nothing mounted.
+        ${proxy:+env http_proxy="$proxy"} unshare --mount debootstrap --arch=i386 \
+            --variant=minbase bookworm "$wine_tree" "$archive" >"$log" 2>&1 ||
+            tree_failed "an i386 Debian tree" 'download|retriev|Release file'
         apt-config dump Acquire::http::Proxy >"$wine_tree/etc/apt/apt.conf.d/90proxy"
         cp /etc/resolv.conf /etc/hosts "$wine_tree/etc/"
         say "installing Wine in it"
         in_tree sh -c 'export DEBIAN_FRONTEND=noninteractive
             apt-get update -q && apt-get install -q -y --no-install-recommends wine wine32' \
-            >>"$log" 2>&1 || {
-            tail -n 5 "$log" >&2
-            unavailable "the packages wine and wine32 for i386"
-        }
+            >>"$log" 2>&1 ||
+            tree_failed "the packages wine and wine32 for i386" '^(E|W|Err).*(fetch|locate|resolve)'
         touch "$wine_tree.installed"
     fi
     flock -u 8

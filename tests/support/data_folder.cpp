@@ -48,6 +48,11 @@ DataFolder::~DataFolder()
     unsetenv("Q7_DATA_PATH");
 }
 
+void DataFolder::stopLog() const
+{
+    std::filesystem::remove(path() + "/log_q7.txt");
+}
+
 std::vector<std::string> DataFolder::takeLog()
 {
     static const std::regex layout(R"(\[\d\d\.\d\d\.\d{4}-\d\d:\d\d:\d\d\.\d{3}\]\.{5}\[(?:)"

@@ -37,6 +37,9 @@ public:
      *  "COMANDOSENVIADOS 1B40", "INFO ...". A line of another layout comes as "MALFORMED ...". */
     std::vector<std::string> takeLog();
 
+    /** Takes the log file away, which ends the log. */
+    void stopLog() const;
+
 private:
     std::size_t m_taken = 0;
 };

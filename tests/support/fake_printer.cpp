@@ -254,7 +254,7 @@ void FakePrinter::serve(Connection& connection, const PrinterScript& script)
     std::size_t limit = std::max(script.readsAtMost, taken);
     if (script.end != PrinterScript::End::Stays)
         limit = std::min(limit, script.endsAfter);
-    if (script.bytesPerSecond > 0 && taken > 0) {
+    if (script.bytesPerSecond > 0 && taken > 0 && taken < script.slowBytes) {
         const std::chrono::duration<double> passed = Clock::now() - connection.firstByte;
         limit = std::min(limit, static_cast<std::size_t>(passed.count() * script.bytesPerSecond));
     }

@@ -28,6 +28,7 @@ struct PrinterScript {
     int unaskedEveryMs = 0;
 
     int bytesPerSecond = 0;                      // reads no faster; 0 for as they come
+    std::size_t slowBytes = std::string::npos;   // so many; then it reads as they come
     std::size_t readsAtMost = std::string::npos; // of a connection; then it reads no more
     int receiveBufferBytes = 0;                  // TCP, of the system; 0 for its default
     int segmentBytes = 0; // TCP, longest segment; small ones keep the sender's buffer small

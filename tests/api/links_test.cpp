@@ -1,0 +1,278 @@
+// How fast bytes leave, that none is lost, and what happens when the printer vanishes.
+
+#include "export_fixture.h"
+
+#include <algorithm>
+#include <pthread.h>
+
+using namespace q7test;
+
+namespace
+{
+
+using std::chrono::seconds;
+
+/** A receipt of so many lines of 48 columns; what the printer gets is added to `bytes`. */
+void printLines(int count, std::string& bytes)
+{
+    for (int line = 0; line < count; ++line) {
+        std::string text = std::to_string(line) + " ARROZ TIPO 1 5KG ";
+        text.resize(47, '.');
+        text += '\n';
+        EXPECT_EQ(48, ImpressaoTexto(text.c_str(), 0, 0, 0));
+        bytes += hex("1B 40 1B 74 10") + text;
+    }
+}
+
+template <typename Call> Clock::duration durationOf(Call call)
+{
+    const Clock::time_point start = Clock::now();
+    call();
+    return Clock::now() - start;
+}
+
+/** Without a log, whose lines cost more than the bytes. */
+class Links : public ExportTest
+{
+protected:
+    Links() { data.stopLog(); }
+};
+
+class Latency : public Links
+{
+protected:
+    /** Milliseconds from the first to the last byte of a receipt of 100 lines. */
+    double receipt()
+    {
+        const std::size_t before = tcp->bytes().size();
+        std::string bytes;
+        printLines(100, bytes);
+        EXPECT_TRUE(sameBytes(bytes, tcp->waitForBytes(before + bytes.size()).substr(before)));
+        return tcp->received().back().duration(before).count();
+    }
+};
+
+// The best of some tries: the machine may be busy, a stall is there each time.
+TEST_F(Latency, AReceiptArrivesWithin20MillisecondsOfItsFirstByte)
+{
+    double afterModelCheck = 1e9;
+    double afterStatus = 1e9;
+    for (int attempt = 0; attempt < 10 && std::max(afterModelCheck, afterStatus) >= 20; ++attempt) {
+        PrinterScript script;
+        script.answers[hex("10 04 02")] = hex("12");
+        tcp = std::make_unique<TcpPrinter>(script);
+        ASSERT_EQ(0, AbreConexaoImpressora(3, "VANTA", "127.0.0.1", tcp->port()));
+        afterModelCheck = std::min(afterModelCheck, receipt());
+        ASSERT_EQ(4, StatusImpressora(2));
+        afterStatus = std::min(afterStatus, receipt());
+        FechaConexaoImpressora();
+    }
+    EXPECT_LT(afterModelCheck, 20);
+    EXPECT_LT(afterStatus, 20);
+}
+
+TEST_F(Latency, ACallLeavesAsOnePacket)
+{
+    const std::function<void()> calls[] = {
+        [] { ImpressaoTexto("abc\n", 1, 15, 17); },
+        [] { ImpressaoCodigoBarras(8, "{C0123456789", 80, 2, 2); },
+        [] { ImpressaoQRCode("https://exemplo.com.br", 4, 2); },
+        [] { Corte(20); },
+        [] { AvancaPapel(20); },
+        [] { DefineAreaImpressao(0, 0, 512, 1000); },
+    };
+    openTcp();
+    for (const auto& call : calls) {
+        takeSent();
+        const std::size_t before = tcp->received().back().segments;
+        call();
+        EXPECT_NE("", takeSent());
+        EXPECT_EQ(before + 2, tcp->received().back().segments) << "the call's and the mark's";
+    }
+}
+
+class Close : public Links
+{
+protected:
+    void closesWithAllOf(const std::string& bytes, const FakePrinter& printer)
+    {
+        EXPECT_EQ(0, FechaConexaoImpressora());
+        EXPECT_TRUE(sameBytes(hex("1D 49 43") + bytes, printer.waitForClose()));
+    }
+};
+
+// The jobs are larger than what the system's buffers hide, and slow for longer than the 5 s for which
+// a printer may stand still.
+TEST_F(Close, SerialLosesNothingAt9600Baud)
+{
+    PrinterScript script;
+    script.bytesPerSecond = 960;
+    script.slowBytes = 9000;
+    PtyPrinter printer(script);
+    ASSERT_EQ(0, AbreConexaoImpressora(2, "VANTA", printer.device().c_str(), 9600));
+    std::string bytes;
+    printLines(800, bytes); // 42,400 bytes
+    closesWithAllOf(bytes, printer);
+}
+
+// Unread input at the close makes the system reset the connection, and the tail is lost.
+TEST_F(Close, TcpLosesNothingWhileThePrinterSendsStatus)
+{
+    for (const int bytesPerSecond : {1'000'000, 80'000}) {
+        PrinterScript script;
+        script.bytesPerSecond = bytesPerSecond;
+        script.unasked = hex("14 00 00 0F");
+        script.unaskedEveryMs = 5;
+        TcpPrinter printer(script);
+        ASSERT_EQ(0, AbreConexaoImpressora(3, "VANTA", "127.0.0.1", printer.port()));
+        std::string bytes;
+        printLines(2500, bytes); // 132,500 bytes
+        closesWithAllOf(bytes, printer);
+    }
+}
+
+TEST_F(Close, CountsAreSigned16BitNumbers)
+{
+    openTcp();
+    for (const int size : {32767, 32768, 65535, 65536, 70000}) {
+        const std::string text(static_cast<std::size_t>(size), 'x');
+        const int count = size <= 32767 ? size : size == 70000 ? 70000 - 65536 : -44;
+        EXPECT_EQ(count, ImpressaoTexto(text.c_str(), 0, 0, 0)) << size;
+        EXPECT_TRUE(sameBytes(hex("1B 40 1B 74 10") + text, takeSent()));
+    }
+}
+
+/** Opens another printer where one has vanished, and prints there. */
+void opensAndPrints()
+{
+    TcpPrinter printer;
+    EXPECT_EQ(0, AbreConexaoImpressora(3, "VANTA", "127.0.0.1", printer.port()));
+    EXPECT_EQ(1, ImpressaoTexto("x", 0, 0, 0));
+    EXPECT_TRUE(sameBytes(hex("1D 49 43  1B 40 1B 74 10") + 'x', printer.waitForBytes(9)));
+    EXPECT_EQ(0, FechaConexaoImpressora());
+}
+
+class Vanish : public Links
+{
+protected:
+    /** 600 sends and a close. Returns the last send's result. */
+    int printTheRest()
+    {
+        int result = 0;
+        for (int line = 0; line < 150; ++line) {
+            result = ImpressaoTexto(std::string(1500, 'x').c_str(), 0, 0, 0);
+            EXPECT_TRUE(result == 1500 || result == -4 || result == -44) << result;
+        }
+        return result;
+    }
+};
+
+TEST_F(Vanish, ConnectionResetInTheMiddle)
+{
+    for (const auto end : {PrinterScript::End::Resets, PrinterScript::End::Closes}) {
+        openTcp();
+        tcp->change([=](PrinterScript& script) {
+            script.end = end;
+            script.endsAfter = 5000;
+        });
+        const auto took = durationOf([this] {
+            printTheRest();
+            EXPECT_NE("", tcp->waitForClose());
+            EXPECT_EQ(-4, printTheRest());
+            EXPECT_EQ(-4, StatusImpressora(2));
+            EXPECT_EQ(-4, FechaConexaoImpressora());
+        });
+        EXPECT_LT(took, seconds(3));
+        opensAndPrints();
+    }
+}
+
+TEST_F(Vanish, TerminalGoneInTheMiddle)
+{
+    openSerial();
+    EXPECT_EQ(1, ImpressaoTexto("x", 0, 0, 0));
+    serial->vanish();
+    const auto took = durationOf([this] {
+        printTheRest();
+        const int status = StatusImpressora(2);
+        EXPECT_TRUE(status == -81 || status == -4) << status;
+        FechaConexaoImpressora();
+    });
+    EXPECT_LT(took, seconds(4)); // the status' 1.5 s
+    EXPECT_EQ(-4, FechaConexaoImpressora());
+    opensAndPrints();
+    PtyPrinter other;
+    EXPECT_EQ(0, AbreConexaoImpressora(2, "VANTA", other.device().c_str(), 9600));
+}
+
+TEST_F(Vanish, NetworkPrinterNeverReads)
+{
+    PrinterScript script;
+    script.readsAtMost = 3; // the model query
+    script.receiveBufferBytes = 4096;
+    script.segmentBytes = 1460;
+    TcpPrinter printer(script);
+    ASSERT_EQ(0, AbreConexaoImpressora(3, "VANTA", "127.0.0.1", printer.port()));
+    EXPECT_LT(durationOf([this] { EXPECT_EQ(1500, printTheRest()); }), seconds(3));
+    EXPECT_LT(durationOf([] { EXPECT_EQ(0, FechaConexaoImpressora()); }), seconds(8));
+    opensAndPrints();
+}
+
+TEST_F(Vanish, SerialPrinterNeverReads)
+{
+    PrinterScript script;
+    script.readsAtMost = 3;
+    PtyPrinter printer(script);
+    ASSERT_EQ(0, AbreConexaoImpressora(2, "VANTA", printer.device().c_str(), 9600));
+    EXPECT_LT(durationOf([this] { EXPECT_EQ(1500, printTheRest()); }), seconds(3));
+    EXPECT_LT(durationOf([] { EXPECT_EQ(0, FechaConexaoImpressora()); }), seconds(8));
+    opensAndPrints();
+}
+
+// The application prints and goes on with something else.
+TEST(OpenConnection, TailLeavesWithoutFurtherCalls)
+{
+    const DataFolder data(DataFolder::Log::Off);
+    PrinterScript script;
+    script.bytesPerSecond = 960;
+    script.slowBytes = 4000;
+    PtyPrinter printer(script);
+    ASSERT_EQ(0, AbreConexaoImpressora(2, "VANTA", printer.device().c_str(), 9600));
+    const std::string text(30000, 'x'); // more than the system takes
+    EXPECT_EQ(30000, ImpressaoTexto(text.c_str(), 0, 0, 0));
+    const std::string all = hex("1D 49 43  1B 40 1B 74 10") + text;
+    EXPECT_TRUE(sameBytes(all, printer.waitForBytes(all.size())));
+    FechaConexaoImpressora();
+}
+
+/** Runs a function on a thread with the stack that Windows gives. */
+void runOnSmallStack(void (*function)())
+{
+    pthread_attr_t attributes;
+    pthread_attr_init(&attributes);
+    pthread_attr_setstacksize(&attributes, 1024 * 1024);
+    pthread_t thread = {};
+    const auto run = [](void* argument) -> void* {
+        (*static_cast<void (**)()>(argument))();
+        return nullptr;
+    };
+    ASSERT_EQ(0, pthread_create(&thread, &attributes, run, &function));
+    pthread_join(thread, nullptr);
+    pthread_attr_destroy(&attributes);
+}
+
+// NULL and text that is not UTF-8 are among the commands' rows.
+TEST_F(Links, HugeTextsOnASmallStack)
+{
+    openTcp();
+    runOnSmallStack([] {
+        const std::string huge(1'000'000, '1');
+        EXPECT_EQ(1'000'000 % 65536, ImpressaoTexto(huge.c_str(), 0, 0, 0));
+        EXPECT_EQ(0, ImpressaoQRCode(huge.c_str(), 1, 1));
+        EXPECT_EQ(0, ImpressaoCodigoBarras(8, ("{C" + huge).c_str(), 1, 1, 1));
+        EXPECT_EQ(0, ImprimeImagemMemoria(huge.c_str(), 1));
+        EXPECT_EQ(-3, AbreConexaoImpressora(3, huge.c_str(), huge.c_str(), 1));
+    });
+}
+
+} // namespace

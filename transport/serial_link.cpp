@@ -52,7 +52,7 @@ public:
     {
         if (m_port->isOpen()) {
             deliverAll();
-            waitUntilDrained(*m_port);
+            waitUntilDrained();
             m_port->flush();
             m_port->close();
         }
@@ -61,8 +61,18 @@ public:
 
 protected:
     void flushDevice() override { m_port->flush(); }
+    qint64 bytesInSystem() override { return q7::bytesInSystem(*m_port); }
 
 private:
+    // Until what the system took has gone down the line.
+    void waitUntilDrained()
+    {
+        constexpr unsigned long pollMs = 5;
+        StallTimer stall(bytesInSystem(), closeStallLimitMs);
+        for (qint64 left = bytesInSystem(); left > 0 && stall.goesOn(left); left = bytesInSystem())
+            QThread::msleep(pollMs);
+    }
+
     std::unique_ptr<QSerialPort> m_port;
 };
 

@@ -15,7 +15,7 @@ QString resolveSerialPortName(const QString& text);
  *  that opened it. */
 void prepareSerialWrites(QSerialPort& port);
 
-/** Waits until what the system took has gone down the line; gives up after 5 s without progress. */
-void waitUntilDrained(QSerialPort& port);
+/** Bytes that the system took and that have not gone down the line yet. */
+qint64 bytesInSystem(QSerialPort& port);
 
 } // namespace q7

@@ -1,10 +1,7 @@
 #include "serial_system.h"
 
-#include "stream_link.h"
-
 #include <QDir>
 #include <QSerialPort>
-#include <QThread>
 #include <sys/ioctl.h>
 
 namespace q7
@@ -51,16 +48,10 @@ void prepareSerialWrites(QSerialPort& port)
     port.clear(QSerialPort::Output);
 }
 
-void waitUntilDrained(QSerialPort& port)
+qint64 bytesInSystem(QSerialPort& port)
 {
-    constexpr unsigned long pollMs = 5;
-    const auto queued = [&port] {
-        int bytes = 0;
-        return ::ioctl(static_cast<int>(port.handle()), TIOCOUTQ, &bytes) == 0 ? bytes : 0;
-    };
-    StallTimer stall(queued(), closeStallLimitMs);
-    for (int left = queued(); left > 0 && stall.goesOn(left); left = queued())
-        QThread::msleep(pollMs);
+    int bytes = 0;
+    return ::ioctl(static_cast<int>(port.handle()), TIOCOUTQ, &bytes) == 0 ? bytes : 0;
 }
 
 } // namespace q7

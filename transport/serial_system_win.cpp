@@ -1,7 +1,5 @@
 #include "serial_system.h"
 
-#include "stream_link.h"
-
 #include <QSerialPort>
 
 #include <windows.h>
@@ -23,17 +21,11 @@ void prepareSerialWrites(QSerialPort& port)
     port.clear(QSerialPort::Output);
 }
 
-void waitUntilDrained(QSerialPort& port)
+qint64 bytesInSystem(QSerialPort& port)
 {
-    constexpr DWORD pollMs = 5;
-    const auto queued = [&port]() -> qint64 {
-        DWORD errors = 0;
-        COMSTAT status = {};
-        return ::ClearCommError(port.handle(), &errors, &status) != 0 ? status.cbOutQue : 0;
-    };
-    StallTimer stall(queued(), closeStallLimitMs);
-    for (qint64 left = queued(); left > 0 && stall.goesOn(left); left = queued())
-        ::Sleep(pollMs);
+    DWORD errors = 0;
+    COMSTAT status = {};
+    return ::ClearCommError(port.handle(), &errors, &status) != 0 ? status.cbOutQue : 0;
 }
 
 } // namespace q7

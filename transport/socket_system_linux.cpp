@@ -1,9 +1,11 @@
 #include "socket_system.h"
 
+#include <linux/sockios.h>
 #include <memory>
 #include <netdb.h>
 #include <netinet/in.h>
 #include <netinet/tcp.h>
+#include <sys/ioctl.h>
 #include <sys/socket.h>
 
 namespace q7
@@ -11,6 +13,12 @@ namespace q7
 void shutDownSending(qintptr socketDescriptor)
 {
     ::shutdown(static_cast<int>(socketDescriptor), SHUT_WR);
+}
+
+qint64 bytesInSystem(qintptr socketDescriptor)
+{
+    int bytes = 0;
+    return ::ioctl(static_cast<int>(socketDescriptor), SIOCOUTQ, &bytes) == 0 ? bytes : 0;
 }
 
 // The system returns to delayed acknowledgement by itself: to be asked for before each wait.

@@ -38,6 +38,12 @@ void shutDownSending(qintptr socketDescriptor)
     ::shutdown(static_cast<SOCKET>(socketDescriptor), SD_SEND);
 }
 
+// Winsock keeps the count to itself; its buffers are small enough to show progress all the same.
+qint64 bytesInSystem(qintptr /*socketDescriptor*/)
+{
+    return 0;
+}
+
 // Systems that do not know the request acknowledge as they always do.
 void acknowledgeAtOnce(qintptr socketDescriptor)
 {

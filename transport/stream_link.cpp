@@ -85,14 +85,17 @@ void StreamLink::deliverAll()
 {
     constexpr int sliceMs = 250;
     flushDevice();
-    StallTimer stall(m_device.bytesToWrite(), closeStallLimitMs);
+    // The system takes more only once much of what it has is gone, which takes a slow printer longer
+    // than the limit: what reaches the printer is progress too.
+    const auto left = [this] { return m_device.bytesToWrite() + bytesInSystem(); };
+    StallTimer stall(left(), closeStallLimitMs);
     while (isOpen() && m_device.bytesToWrite() > 0) {
         QElapsedTimer slice;
         slice.start();
         const bool moved = waitForProgress(sliceMs);
         if (!moved && slice.elapsed() < sliceMs / 2)
             return; // not a time-out: the link failed
-        if (!stall.goesOn(m_device.bytesToWrite()))
+        if (!stall.goesOn(left()))
             return;
     }
 }

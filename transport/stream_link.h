@@ -28,11 +28,14 @@ protected:
     /** Writes what the system takes without waiting. */
     virtual void flushDevice() = 0;
 
+    /** Bytes that the system took and that have not reached the printer yet. */
+    virtual qint64 bytesInSystem() = 0;
+
     /** Called before each wait for a reply or more of it. */
     virtual void askForMore() {}
 
-    /** Waits until everything was handed to the system; gives up after 5 s without progress or when
-     *  the link fails. */
+    /** Waits until everything was handed to the system; gives up after 5 s in which nothing reached
+     *  the printer, or when the link fails. */
     void deliverAll();
 
     /** Stops what goes on between calls; for destructors, before the device goes. */

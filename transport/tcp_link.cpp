@@ -124,6 +124,11 @@ void TcpLink::flushDevice()
     m_socket->flush();
 }
 
+qint64 TcpLink::bytesInSystem()
+{
+    return q7::bytesInSystem(m_socket->socketDescriptor());
+}
+
 void TcpLink::askForMore()
 {
     acknowledgeAtOnce(m_socket->socketDescriptor());

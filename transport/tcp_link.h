@@ -30,6 +30,7 @@ public:
 
 protected:
     void flushDevice() override;
+    qint64 bytesInSystem() override;
     void askForMore() override;
 
 private:

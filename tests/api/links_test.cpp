@@ -115,6 +115,20 @@ TEST_F(Close, SerialLosesNothingAt9600Baud)
     closesWithAllOf(bytes, printer);
 }
 
+TEST_F(Close, TcpLosesNothingAt4KilobytesASecond)
+{
+    PrinterScript script;
+    script.bytesPerSecond = 4096;
+    script.slowBytes = 45'000;
+    script.receiveBufferBytes = 4096;
+    script.segmentBytes = 1460;
+    TcpPrinter printer(script);
+    ASSERT_EQ(0, AbreConexaoImpressora(3, "VANTA", "127.0.0.1", printer.port()));
+    std::string bytes;
+    printLines(8000, bytes); // 424,000 bytes
+    closesWithAllOf(bytes, printer);
+}
+
 // Unread input at the close makes the system reset the connection, and the tail is lost.
 TEST_F(Close, TcpLosesNothingWhileThePrinterSendsStatus)
 {

@@ -355,6 +355,10 @@ void FakePrinter::end(Connection& connection, PrinterScript::End how)
     if (how == PrinterScript::End::Resets && m_terminal < 0) {
         const linger atOnce = {1, 0};
         setsockopt(connection.descriptor, SOL_SOCKET, SO_LINGER, &atOnce, sizeof atOnce);
+    } else {
+        // First the end of the connection, then a reset for what arrives behind it: the order in
+        // which the sender's next write is a broken pipe.
+        shutdown(connection.descriptor, SHUT_WR);
     }
     close(connection.descriptor);
     connection.descriptor = -1;

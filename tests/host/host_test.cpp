@@ -1,0 +1,84 @@
+// Programs of every kind that hold the library: they hear nothing from it and are not harmed.
+
+#include "bytes.h"
+#include "data_folder.h"
+#include "fake_printer.h"
+#include "program.h"
+
+#include <gtest/gtest.h>
+
+using namespace q7test;
+
+namespace
+{
+
+class Host : public testing::Test
+{
+protected:
+    static PrinterScript answering()
+    {
+        PrinterScript script;
+        script.answers[hex("10 04 02")] = hex("12");
+        return script;
+    }
+
+    static PrinterScript closing()
+    {
+        PrinterScript script;
+        script.end = PrinterScript::End::Closes;
+        script.endsAfter = 500;
+        return script;
+    }
+
+    void expectSilence(const char* program)
+    {
+        const ProgramResult result =
+            runProgram({program, std::to_string(printer.port()),
+                        std::to_string(closingPrinter.port()), terminal.device()});
+        EXPECT_EQ("", result.output);
+        EXPECT_EQ(0, result.exitCode) << "line of host_sequence.c; signal " << result.signal;
+    }
+
+    DataFolder data{DataFolder::Log::Off};
+    TcpPrinter printer{answering()};
+    TcpPrinter closingPrinter{closing()};
+    PtyPrinter terminal{answering()};
+};
+
+TEST_F(Host, WithoutQtHearsNothing)
+{
+    expectSilence(Q7_HOST_C);
+}
+
+TEST_F(Host, WithAQtEventLoopHearsNothing)
+{
+    expectSilence(Q7_HOST_QT);
+}
+
+TEST_F(Host, MayUnloadTheLibrary)
+{
+    const ProgramResult result =
+        runProgram({Q7_HOST_LOADER, Q7_LIBRARY, std::to_string(printer.port())});
+    EXPECT_EQ("", result.output);
+    EXPECT_EQ(0, result.exitCode) << "signal " << result.signal;
+}
+
+TEST_F(Host, LoadIsLogged)
+{
+    data.write("log_q7.txt", "");
+    runProgram({Q7_HOST_C});
+    // The host was called without arguments and did nothing itself.
+    EXPECT_EQ(std::vector<std::string>{"INFO Biblioteca carregada 01.01.00"}, data.takeLog());
+}
+
+TEST_F(Host, KeepsItsMemory)
+{
+#ifdef Q7_SANITIZE
+    GTEST_SKIP() << "freed memory stays in the sanitizer's quarantine";
+#endif
+    const ProgramResult result = runProgram({Q7_HOST_C, "memory", std::to_string(printer.port())});
+    EXPECT_LE(result.exitCode, 128) << "KiB grown from receipt 100 to 2000";
+    EXPECT_GE(result.exitCode, 0) << "signal " << result.signal;
+}
+
+} // namespace

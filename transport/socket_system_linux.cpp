@@ -10,6 +10,7 @@
 
 namespace q7
 {
+
 void shutDownSending(qintptr socketDescriptor)
 {
     ::shutdown(static_cast<int>(socketDescriptor), SHUT_WR);

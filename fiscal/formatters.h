@@ -11,7 +11,7 @@ namespace q7
 QString formatDateTimeBR(QString dateTime);
 
 /** "1.234,56" of "1234.56". Counts on exactly two decimals, and makes at most two thousands
- *  separators: "1234567890.00" gives "1234567.890,00". */
+ *  separators: "1234567890.00" gives "1234.567.890,00". */
 QString formatDecimalBR(QString amount);
 
 /** "1.234,50" of 1234.5. */

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "bytes.h"
-#include "data_folder.h"
+#include "temporary_folder.h"
 #include "fake_printer.h"
 #include "q7_impressora.h"
 

@@ -1,6 +1,6 @@
 // Documents against schemas: hand-written ones here, the official ones where they are at hand.
-#include "../support/data_folder.h" // config has a header of that name too
 #include "q7_impressora.h"
+#include "temporary_folder.h"
 #include "xsd_validator.h"
 
 #include <QFile>

@@ -1,7 +1,7 @@
 // Programs of every kind that hold the library: they hear nothing from it and are not harmed.
 
 #include "bytes.h"
-#include "data_folder.h"
+#include "temporary_folder.h"
 #include "fake_printer.h"
 #include "program.h"
 

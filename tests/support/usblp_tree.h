@@ -1,7 +1,7 @@
 // A made-up tree of USB printers, as Linux shows those of its usblp driver.
 #pragma once
 
-#include "data_folder.h"
+#include "temporary_folder.h"
 
 namespace q7test
 {

@@ -1,4 +1,4 @@
-#include "data_folder.h"
+#include "temporary_folder.h"
 
 #include <cstdlib>
 #include <filesystem>

@@ -1,0 +1,148 @@
+// USB printers: a made-up tree of devices, whose device files lead to pseudo-terminals.
+
+#include "escrever_ler.h"
+#include "printer_connection.h"
+#include "printer_models.h"
+#include "q7_impressora.h"
+#include "usb_discovery_linux.h"
+
+#include "bytes.h"
+#include "fake_printer.h"
+#include "temporary_folder.h"
+#include "usblp_tree.h"
+
+#include <filesystem>
+
+#include <gtest/gtest.h>
+
+using namespace q7;
+using namespace q7test;
+
+namespace
+{
+
+std::string hexOf(quint16 identifier)
+{
+    return QString::number(identifier, 16).rightJustified(4, '0').toStdString();
+}
+
+class Usb : public testing::Test
+{
+protected:
+    void add(int number, const char* model, const std::string& target = {})
+    {
+        const PrinterModel* row = modelByName(model);
+        tree.add(number, hexOf(row->vendorId), hexOf(row->productId), target);
+    }
+
+    UsbSearch find(const char* model) const
+    {
+        return UsblpPrinters(QString::fromStdString(tree.classFolder()),
+                             QString::fromStdString(tree.deviceFolder()))
+            .find(model);
+    }
+
+    std::string deviceOf(int number) const
+    {
+        return tree.deviceFolder() + "/lp" + std::to_string(number);
+    }
+
+    int open(const char* model)
+    {
+        connection.setKind(UsbConnection);
+        return connection.open("", model, 0);
+    }
+
+    DataFolder data;
+    UsblpTree tree;
+    PrinterConnection connection{[this](const QString& model) { return find(model.toUtf8()); }};
+};
+
+TEST_F(Usb, TheLowestNumberWins)
+{
+    add(10, "VANTA");
+    add(9, "VANTA");
+    add(0, "VESPA");
+    tree.add(1, "1a01", "", ""); // no product
+    std::filesystem::create_directory(tree.classFolder() + "/lpx");
+    EXPECT_EQ(0, find("VANTA").result);
+    EXPECT_EQ(deviceOf(9), find("VANTA").path.toStdString());
+    EXPECT_EQ(deviceOf(0), find("VESPA").path.toStdString());
+    for (const char* model : {"SORBE", "vanta", "XPTO", ""})
+        EXPECT_EQ(-21, find(model).result) << model;
+    EXPECT_EQ(-21, UsblpPrinters("/no such folder", "/dev").find("VANTA").result);
+}
+
+TEST_F(Usb, IdentifiersAreComparedInCapitals)
+{
+    tree.add(3, "1A04", "0001");
+    tree.add(4, "1a05", "0001");
+    EXPECT_EQ(0, find("PINTA").result);
+    EXPECT_EQ(0, find("DUNEL").result);
+    add(5, "RANZA");
+    EXPECT_EQ(deviceOf(5), find("ORLA-K").path.toStdString());
+}
+
+TEST_F(Usb, PrintsReadsAndCloses)
+{
+    PrinterScript script;
+    script.answers[hex("1D 49 43")] = "_VANTA" + std::string(1, '\0');
+    script.replyByteGapMs = 2;
+    PtyPrinter printer(script);
+    add(0, "VANTA", printer.device());
+    ASSERT_EQ(0, open("VANTA")); // asks nothing
+    EXPECT_TRUE(connection.isOpen());
+    EXPECT_EQ(3, connection.send("abc"));
+    EXPECT_EQ(3, connection.send(QByteArray::fromStdString(hex("1D 49 43"))));
+    EscreverLer reader(connection);
+    const EscreverLer::Reply reply = reader.readReply(1500, endsWithZero);
+    EXPECT_EQ(0, reply.status);
+    EXPECT_EQ("_VANTA" + std::string(1, '\0'), reply.data.toStdString());
+    EXPECT_EQ(-81, reader.readReply(100, isOneByte).status);
+    EXPECT_EQ(0, connection.close());
+    EXPECT_FALSE(connection.isOpen());
+    EXPECT_EQ(-4, connection.close());
+    EXPECT_EQ(-4, connection.send("abc"));
+    EXPECT_TRUE(sameBytes("abc" + hex("1D 49 43"), printer.waitForClose()));
+    EXPECT_EQ((std::vector<std::string>{"COMANDOSENVIADOS 616263", "COMANDOSENVIADOS 1D4943",
+                                        "COMANDOSENVIADOS 616263"}),
+              data.takeLog());
+}
+
+TEST_F(Usb, DeviceThatCannotBeOpenedIsLogged)
+{
+    add(0, "VANTA");
+    EXPECT_EQ(-22, open("VANTA"));
+    EXPECT_EQ(std::vector<std::string>{"INFO ERRO DE ABERTURA DE PORTA:2"},
+              data.takeLog()); // ENOENT
+    EXPECT_EQ(-21, open("VESPA"));
+    EXPECT_FALSE(connection.isOpen());
+}
+
+TEST_F(Usb, AVanishedDeviceGivesTheSystemsError)
+{
+    PtyPrinter printer;
+    add(0, "VANTA", printer.device());
+    ASSERT_EQ(0, open("VANTA"));
+    printer.vanish();
+    EXPECT_EQ(5, connection.send("abc")); // EIO, positive: it can be taken for a count
+    EXPECT_EQ(0, connection.close());
+}
+
+TEST_F(Usb, APrinterThatNeverReadsIsWaitedForOnce)
+{
+    PrinterScript script;
+    script.readsAtMost = 0;
+    PtyPrinter printer(script);
+    add(0, "VANTA", printer.device());
+    ASSERT_EQ(0, open("VANTA"));
+    while (connection.send(QByteArray(64, 'x')) > 0)
+        ; // what the system takes
+    const Clock::time_point start = Clock::now();
+    for (int line = 0; line < 600; ++line)
+        EXPECT_EQ(-44, connection.send("abc\n"));
+    EXPECT_LT(Clock::now() - start, std::chrono::seconds(4));
+    EXPECT_EQ(0, connection.close());
+}
+
+} // namespace

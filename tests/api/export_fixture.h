@@ -2,9 +2,9 @@
 #pragma once
 
 #include "bytes.h"
-#include "temporary_folder.h"
 #include "fake_printer.h"
 #include "q7_impressora.h"
+#include "temporary_folder.h"
 
 #include <gtest/gtest.h>
 #include <memory>

@@ -1,9 +1,9 @@
 // Programs of every kind that hold the library: they hear nothing from it and are not harmed.
 
 #include "bytes.h"
-#include "temporary_folder.h"
 #include "fake_printer.h"
 #include "program.h"
+#include "temporary_folder.h"
 
 #include <gtest/gtest.h>
 

@@ -20,9 +20,10 @@ static DWORD WINAPI receive(void* opening)
 {
     Opening* self = opening;
     OVERLAPPED operation = {.hEvent = CreateEventA(NULL, TRUE, FALSE, NULL)};
-    ConnectNamedPipe(self->pipe, &operation);
     DWORD count = 0;
-    GetOverlappedResult(self->pipe, &operation, &count, TRUE);
+    /* A client that is there already leaves nothing to wait for: the operation never starts. */
+    if (!ConnectNamedPipe(self->pipe, &operation) && GetLastError() == ERROR_IO_PENDING)
+        GetOverlappedResult(self->pipe, &operation, &count, TRUE);
     char bytes[256];
     for (;;) {
         if (!ReadFile(self->pipe, bytes, sizeof bytes, NULL, &operation) &&

@@ -1,13 +1,10 @@
 #include "schema_engine.h"
 
-#include "schema_files.h"
+#include "compiled_schema.h"
 
-#include <QAbstractMessageHandler>
 #include <QCoreApplication>
-#include <QSourceLocation>
 #include <QThread>
 #include <QUrl>
-#include <QXmlSchema>
 #include <QXmlSchemaValidator>
 #include <QXmlStreamReader>
 #include <atomic>
@@ -21,35 +18,6 @@ namespace
 {
 
 constexpr std::size_t deepestNesting = 256;
-
-QString withoutMarkup(const QString& xhtml)
-{
-    QXmlStreamReader reader(xhtml);
-    QString text;
-    while (!reader.atEnd()) {
-        if (reader.readNext() == QXmlStreamReader::Characters)
-            text += reader.text();
-    }
-    return text;
-}
-
-/** Keeps the last message. */
-class LastMessage : public QAbstractMessageHandler
-{
-public:
-    explicit LastMessage(SchemaVerdict& verdict) : m_verdict(verdict) {}
-
-protected:
-    void handleMessage(QtMsgType /*type*/, const QString& description, const QUrl& /*identifier*/,
-                       const QSourceLocation& location) override
-    {
-        m_verdict.description = withoutMarkup(description);
-        m_verdict.line = location.isNull() ? 0 : location.line();
-    }
-
-private:
-    SchemaVerdict& m_verdict;
-};
 
 // What the engine would not survive or would get wrong: elements nested too deep, or standing in
 // their parent more often than the limits say. Returns a conforming verdict when there is nothing.
@@ -76,33 +44,27 @@ SchemaVerdict checkNestingAndCounts(const QByteArray& document, const CountLimit
     return {true, {}, 0};
 }
 
-// Says what is wrong through the verdict, which the engine's messages go into.
-void runEngine(const QByteArray& document, const QString& schemaPath, SchemaVerdict& verdict)
+SchemaVerdict runEngine(const QByteArray& document, const QString& schemaPath)
 {
+    const CompiledSchema& compiled = CompiledSchema::of(schemaPath);
+    if (!compiled.verdict().conforms)
+        return compiled.verdict();
+    SchemaVerdict verdict = checkNestingAndCounts(document, compiled.countLimits());
+    if (!verdict.conforms)
+        return verdict;
+
     LastMessage messages(verdict);
-    SchemaFiles schemaFiles;
     NoFiles noFiles;
-
-    QXmlSchema schema;
-    schema.setMessageHandler(&messages);
-    schema.setNetworkAccessManager(&schemaFiles);
-    if (!schema.load(QUrl::fromLocalFile(schemaPath)))
-        return;
-
-    const SchemaVerdict checked = checkNestingAndCounts(document, schemaFiles.countLimits());
-    if (!checked.conforms) {
-        verdict = checked;
-        return;
-    }
-
+    QXmlSchemaValidator validator(compiled.schema());
+    validator.setMessageHandler(&messages);
+    validator.setNetworkAccessManager(&noFiles);
     // The document has no file of its own; an address without a scheme would be completed by the
     // application's path.
     QUrl documentUrl;
     documentUrl.setScheme("memoria");
     documentUrl.setPath("algum lugar...");
-    QXmlSchemaValidator validator(schema);
-    validator.setNetworkAccessManager(&noFiles);
     verdict.conforms = validator.validate(document, documentUrl);
+    return verdict;
 }
 
 thread_local bool isEngineThread = false;
@@ -150,7 +112,7 @@ SchemaVerdict checkAgainstSchema(const QByteArray& document, const QString& sche
     const std::unique_ptr<QThread> thread(QThread::create([&] {
         isEngineThread = true;
         try {
-            runEngine(document, schemaPath, verdict);
+            verdict = runEngine(document, schemaPath);
         } catch (...) {
             verdict = {}; // out of memory
         }

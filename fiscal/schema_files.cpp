@@ -2,6 +2,7 @@
 
 #include <QBuffer>
 #include <QFile>
+#include <QFileInfo>
 #include <QNetworkReply>
 #include <QNetworkRequest>
 #include <QRegularExpression>
@@ -50,18 +51,30 @@ private:
 };
 
 // Null when there is no such file.
-QByteArray readLocalFile(const QUrl& url)
+QByteArray readFile(const QString& path)
 {
-    QFile file(url.toLocalFile()); // without a name for addresses of other kinds
+    QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 } // namespace
 
+SchemaFileStates statesOf(const QStringList& paths)
+{
+    SchemaFileStates states;
+    for (const QString& path : paths) {
+        const QFileInfo file(path);
+        states[path] = {file.lastModified(), file.size()};
+    }
+    return states;
+}
+
 QNetworkReply* SchemaFiles::createRequest(Operation /*operation*/, const QNetworkRequest& request,
                                           QIODevice* /*outgoingData*/)
 {
-    return new ReadyReply(request, liftLargeCounts(readLocalFile(request.url()), m_countLimits));
+    const QString path = request.url().toLocalFile(); // empty for addresses of other kinds
+    m_states[path] = statesOf({path}).first();
+    return new ReadyReply(request, liftLargeCounts(readFile(path), m_countLimits));
 }
 
 QNetworkReply* NoFiles::createRequest(Operation /*operation*/, const QNetworkRequest& request,

@@ -1,15 +1,25 @@
 // How the schema engine gets at schema files: local ones alone, prepared for its limits.
 #pragma once
 
+#include <QDateTime>
 #include <QHash>
+#include <QMap>
 #include <QNetworkAccessManager>
+#include <QPair>
 #include <QString>
+#include <QStringList>
 
 namespace q7
 {
 
 /** How often an element may stand in its parent, by its name. */
 using CountLimits = QHash<QString, int>;
+
+/** Files by their paths: time of change and size in bytes. Of a file that is not there, an invalid
+ *  time and 0. */
+using SchemaFileStates = QMap<QString, QPair<QDateTime, qint64>>;
+
+SchemaFileStates statesOf(const QStringList& paths);
 
 /** Answers with local files; every other address is refused, so that nothing is fetched from a
  *  network. Lives in the engine's thread. */
@@ -19,12 +29,16 @@ public:
     /** What the engine must not be trusted to count in a document; see liftLargeCounts. */
     const CountLimits& countLimits() const { return m_countLimits; }
 
+    /** Of every file asked for, from before it was read. */
+    const SchemaFileStates& states() const { return m_states; }
+
 protected:
     QNetworkReply* createRequest(Operation operation, const QNetworkRequest& request,
                                  QIODevice* outgoingData) override;
 
 private:
     CountLimits m_countLimits;
+    SchemaFileStates m_states;
 };
 
 /** Refuses everything. For documents: an xsi:schemaLocation in one must not make the engine open

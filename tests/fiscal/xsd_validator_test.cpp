@@ -150,6 +150,21 @@ TEST(XsdValidator, MakesTheConfigurationFile)
     EXPECT_NE(folder.read("q7_conf.ini").find("caminho_xsd"), std::string::npos);
 }
 
+// Schemas are compiled once, but an operator may put in a newer one, or a part that was missing.
+TEST(XsdValidator, SeesThatAFileOfASchemaHasChanged)
+{
+    Schemas schemas;
+    schemas.add(saleSchema, schemaOf("<xs:include schemaLocation='part.xsd'/>"
+                                     "<xs:element name='r' type='T'/>"));
+    EXPECT_EQ(validateXsd("<r>1</r>", 1, 0), -71);
+    for (const char* type : {"int", "date"}) {
+        schemas.add("xsd/SAT/part.xsd",
+                    schemaOf("<xs:simpleType name='T'><xs:restriction base='xs:" +
+                             std::string(type) + "'/></xs:simpleType>"));
+        EXPECT_EQ(validateXsd("<r>1</r>", 1, 0), std::string(type) == "int" ? 0 : -71);
+    }
+}
+
 // A hint in a document may name anything, a remote host or a device that never ends among them.
 TEST(XsdValidator, OpensNothingThatADocumentNames)
 {

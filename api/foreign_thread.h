@@ -14,7 +14,7 @@ class ForeignThread
 {
 public:
     ForeignThread();
-    ~ForeignThread();
+    ~ForeignThread(); // NOLINT(performance-trivially-destructible): not so on Windows
     ForeignThread(const ForeignThread&) = delete;
     ForeignThread& operator=(const ForeignThread&) = delete;
 

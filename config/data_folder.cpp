@@ -9,7 +9,7 @@ namespace q7
 
 QString dataFolder()
 {
-    const QString registered = registeredDataFolder();
+    QString registered = registeredDataFolder();
     if (!registered.isEmpty() && QDir(registered).exists())
         return registered;
     return QDir::currentPath() + QLatin1Char('/');

@@ -1,8 +1,5 @@
-/** \file bytes.h
- *  Printer bytes written readably.
- */
-#ifndef Q7_TESTS_VIRTUAL_PRINTER_BYTES_H
-#define Q7_TESTS_VIRTUAL_PRINTER_BYTES_H
+// Printer bytes written readably.
+#pragma once
 
 #include <stdexcept>
 #include <string>
@@ -26,5 +23,3 @@ inline std::string bytes(std::string_view notation)
     }
     return made;
 }
-
-#endif

@@ -29,37 +29,38 @@ class Drawing : public testing::Test
 {
 protected:
     Drawing()
-        : folder_(std::filesystem::path(testing::TempDir()) /
-                  ("q7_drawing_" + std::to_string(getpid())))
+        : m_folder(std::filesystem::path(testing::TempDir()) /
+                   ("q7_drawing_" + std::to_string(getpid())))
     {
-        std::filesystem::create_directories(folder_);
+        std::filesystem::create_directories(m_folder);
     }
-    ~Drawing() override { std::filesystem::remove_all(folder_); }
+    ~Drawing() override { std::filesystem::remove_all(m_folder); }
 
     void draw(const std::string& stream, const char* model = "VANTA", Graphics graphics = {})
     {
-        said_.clear();
-        const Workshop workshop{(folder_ / "job").string(), &fontGlyphs(), std::move(graphics),
-                                [this](const std::string& line) { said_.push_back(line); }};
+        m_said.clear();
+        const Workshop workshop{(m_folder / "job").string(), &fontGlyphs(), std::move(graphics),
+                                [this](const std::string& line) { m_said.push_back(line); }};
         FileJob job(workshop, *findModel(model), 1);
         runJob(job, stream, *findModel(model));
     }
 
-    [[nodiscard]] QImage picture(const std::string& suffix = "1-1") const
+    QImage picture(const std::string& suffix = "1-1") const
     {
-        const QImage image(QString::fromStdString((folder_ / ("job-" + suffix + ".png")).string()));
+        const QImage image(
+            QString::fromStdString((m_folder / ("job-" + suffix + ".png")).string()));
         EXPECT_FALSE(image.isNull()) << suffix;
         return image.convertToFormat(QImage::Format_Grayscale8);
     }
 
-    [[nodiscard]] std::string file(const char* name) const
+    std::string file(const char* name) const
     {
-        std::ifstream in(folder_ / name, std::ios::binary);
+        std::ifstream in(m_folder / name, std::ios::binary);
         return {std::istreambuf_iterator<char>(in), {}};
     }
 
-    std::filesystem::path folder_;
-    std::vector<std::string> said_;
+    std::filesystem::path m_folder;
+    std::vector<std::string> m_said;
 };
 
 /** What an independent reader finds in the picture: "QR-Code:text". */
@@ -92,9 +93,9 @@ std::string readSymbols(const QImage& grey)
     return found;
 }
 
-const std::string kKey = "35240111222333000181590000123456781234567890";
-const std::string kQrText =
-    "https://www.nfce.fazenda.example.gov.br/qrcode?p=" + kKey + "|2|1|1|0123456789ABCDEF";
+const std::string accessKey = "35240111222333000181590000123456781234567890";
+const std::string qrText =
+    "https://www.nfce.fazenda.example.gov.br/qrcode?p=" + accessKey + "|2|1|1|0123456789ABCDEF";
 
 std::string pairsOf(const std::string& digits)
 {
@@ -159,7 +160,7 @@ Graphics testGraphic()
 TEST_P(QrDialects, CanBeScanned)
 {
     draw(GetParam().stream, GetParam().model);
-    EXPECT_EQ(readSymbols(picture()), "QR-Code:" + kQrText);
+    EXPECT_EQ(readSymbols(picture()), "QR-Code:" + qrText);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -167,20 +168,20 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(
         QrDialect{"VANTA",
                   bytes("1B 61 01 1D 28 6B 03 00 31 43 04 1D 28 6B 03 00 31 45 31 1D 28 6B") +
-                      byte(kQrText.size() + 3) + bytes("00 31 50 30") + kQrText +
+                      byte(qrText.size() + 3) + bytes("00 31 50 30") + qrText +
                       bytes("1D 28 6B 03 00 31 51 30 0A")},
         QrDialect{"ORLA-K",
-                  bytes("1B 61 01 1D 6F 00 04 00 02 1D 6B 0B 'MA,'") + kQrText + bytes("00 0A")},
-        QrDialect{"SORBE", bytes("1B 61 01 0A 1D 6B 51 00 08 0E 01") + byte(kQrText.size() + 3) +
-                               bytes("00") + kQrText + "\n"}),
+                  bytes("1B 61 01 1D 6F 00 04 00 02 1D 6B 0B 'MA,'") + qrText + bytes("00 0A")},
+        QrDialect{"SORBE", bytes("1B 61 01 0A 1D 6B 51 00 08 0E 01") + byte(qrText.size() + 3) +
+                               bytes("00") + qrText + "\n"}),
     [](const auto& row) {
         return std::string(row.param.model) == "ORLA-K" ? "ORLAK" : std::string(row.param.model);
     });
 
 TEST_F(Drawing, Code128OfAnAccessKeyCanBeScanned)
 {
-    draw(bytes("1B 61 01 1D 68 32 1D 77 02 1D 48 04 1D 6B 49 18 '{C'") + pairsOf(kKey) + "\n");
-    EXPECT_EQ(readSymbols(picture()), "CODE-128:" + kKey);
+    draw(bytes("1B 61 01 1D 68 32 1D 77 02 1D 48 04 1D 6B 49 18 '{C'") + pairsOf(accessKey) + "\n");
+    EXPECT_EQ(readSymbols(picture()), "CODE-128:" + accessKey);
 }
 
 TEST_F(Drawing, Code128OfAPrinterThatPicksTheSetCanBeScanned)
@@ -195,7 +196,7 @@ TEST_F(Drawing, ALineOf64ColumnsFillsTheWidth)
     const QImage image = picture();
     const auto isInk = [&](int x) {
         for (int y = 0; y < 17; ++y) {
-            if (qGray(image.pixel(Picture::kLeftDots + x, Picture::kTopDots + y)) < 64) {
+            if (qGray(image.pixel(Picture::leftDots + x, Picture::topDots + y)) < 64) {
                 return true;
             }
         }
@@ -219,7 +220,7 @@ TEST_F(Drawing, EveryStyleLooksAsInTheReferencePicture)
     const QImage reference =
         QImage(Q7_REFERENCE_PICTURE).convertToFormat(QImage::Format_Grayscale8);
     const auto kept = std::filesystem::temp_directory_path() / "q7_styles_drawn.png";
-    std::filesystem::copy_file(folder_ / "job-1-1.png", kept,
+    std::filesystem::copy_file(m_folder / "job-1-1.png", kept,
                                std::filesystem::copy_options::overwrite_existing);
     ASSERT_EQ(image.size(), reference.size()) << "drawn: " << kept;
     // A font renderer of another version may move a few dots of a glyph; a missing underline is
@@ -243,8 +244,8 @@ TEST_F(Drawing, EveryStyleLooksAsInTheReferencePicture)
 TEST_F(Drawing, ACutEndsAReceipt)
 {
     draw(bytes("'one' 0A 1D 56 00 1D 56 00 'two' 0A 1B 7A 'three'"));
-    EXPECT_EQ(said_.size(), 5U) << "a text and a picture of each of two receipts, and the end";
-    EXPECT_EQ(said_.back(), "job 1 ended, not understood: 1, the first at byte 14");
+    EXPECT_EQ(m_said.size(), 5U) << "a text and a picture of each of two receipts, and the end";
+    EXPECT_EQ(m_said.back(), "job 1 ended, not understood: 1, the first at byte 14");
     EXPECT_EQ(file("job-1-1.txt").substr(0, 4), "one\n");
     EXPECT_EQ(file("job-1-2.txt"), "two\n");
     EXPECT_NE(file("job-1.list")
@@ -268,7 +269,7 @@ TEST_F(Drawing, ALongReceiptIsSplitBetweenLines)
         << "seconds of processor time";
     int rows = 0;
     for (const char* part : {"1-1", "1-1-2", "1-1-3", "1-1-4"}) {
-        rows += picture(part).height() - 2 * Picture::kTopDots;
+        rows += picture(part).height() - 2 * Picture::topDots;
     }
     EXPECT_EQ(rows, 990 * 2 * 30);
 }
@@ -297,7 +298,7 @@ TEST_F(Drawing, HostileStreamsDoNoHarm)
         stream += std::string(70'000, '\0') + bytes("1B 40 'still alive' 0A");
         draw(stream, seed % 2 == 0 ? "VANTA" : "VOLTA", testGraphic());
         std::string all;
-        for (const auto& entry : std::filesystem::directory_iterator(folder_)) {
+        for (const auto& entry : std::filesystem::directory_iterator(m_folder)) {
             if (entry.path().extension() == ".txt") {
                 all += file(entry.path().filename().c_str());
             }

@@ -23,7 +23,7 @@ namespace
 class Link
 {
 public:
-    explicit Link(int descriptor) : fd_(descriptor) {}
+    explicit Link(int descriptor) : m_fd(descriptor) {}
     ~Link() { hangUp(); }
     Link(const Link&) = delete;
     Link& operator=(const Link&) = delete;
@@ -41,7 +41,7 @@ public:
 
     void put(const std::string& data) const
     {
-        EXPECT_EQ(write(fd_, data.data(), data.size()), static_cast<ssize_t>(data.size()));
+        EXPECT_EQ(write(m_fd, data.data(), data.size()), static_cast<ssize_t>(data.size()));
     }
 
     /** Reads until so many bytes have come, the link ends or the time is over. */
@@ -51,42 +51,42 @@ public:
         const auto deadline = Clock::now() + timeout;
         while (taken.size() < count) {
             const auto left = std::chrono::ceil<milliseconds>(deadline - Clock::now()).count();
-            pollfd watched{fd_, POLLIN, 0};
+            pollfd watched{m_fd, POLLIN, 0};
             char buffer[4096];
             if (left <= 0 || poll(&watched, 1, static_cast<int>(left)) <= 0) {
                 break;
             }
-            const ssize_t got = read(fd_, buffer, std::min(sizeof buffer, count - taken.size()));
+            const ssize_t got = read(m_fd, buffer, std::min(sizeof buffer, count - taken.size()));
             if (got <= 0) {
-                error_ = got < 0 ? errno : 0;
-                ended_ = true;
+                m_error = got < 0 ? errno : 0;
+                m_ended = true;
                 break;
             }
             taken.append(buffer, static_cast<std::size_t>(got));
         }
         return taken;
     }
-    [[nodiscard]] bool ended() const { return ended_; }
-    [[nodiscard]] int error() const { return error_; }
+    bool ended() const { return m_ended; }
+    int error() const { return m_error; }
 
     void hangUp()
     {
-        if (fd_ >= 0) {
-            close(fd_);
-            fd_ = -1;
+        if (m_fd >= 0) {
+            close(m_fd);
+            m_fd = -1;
         }
     }
 
 private:
-    int fd_;
-    bool ended_ = false;
-    int error_ = 0;
+    int m_fd;
+    bool m_ended = false;
+    int m_error = 0;
 };
 
 struct Query {
     const char* name;
     const char* model;
-    const char* state; /**< nullptr for none */
+    const char* state; // nullptr for none
     std::string query;
     std::string answer;
 };
@@ -106,8 +106,8 @@ ServerSettings behaving(const Behaviour& behaviour)
     return settings;
 }
 
-const std::string kNameQuery = bytes("1D 49 43");
-const std::string kNameAnswer = bytes("'_VANTA' 00");
+const std::string nameQuery = bytes("1D 49 43");
+const std::string nameAnswer = bytes("'_VANTA' 00");
 
 } // namespace
 
@@ -127,7 +127,7 @@ TEST_P(Answers, TellModelAndState)
 INSTANTIATE_TEST_SUITE_P(
     Queries, Answers,
     testing::Values(
-        Query{"Name", "ranzapro", nullptr, kNameQuery, bytes("'_RANZAPRO' 00")},
+        Query{"Name", "ranzapro", nullptr, nameQuery, bytes("'_RANZAPRO' 00")},
         Query{"TildeName", "TESMO", nullptr, "~HI", bytes("02 'TESMO,V1.00,8,8192KB' 03 0D 0A")},
         Query{"Firmware", "VANTA", nullptr, bytes("1D 49 41"), bytes("'_1.00' 00")},
         Query{"DrawerClosed", "VANTA", nullptr, bytes("1D 61 00 10 04 01"), bytes("16")},
@@ -163,11 +163,11 @@ TEST(Printer, ServesASerialLine)
     const RecordingPrinter printer(settings);
     for (std::size_t job = 0; job < 2; ++job) {
         Link link(open(settings.serialLink.c_str(), O_RDWR | O_NOCTTY));
-        link.put(kNameQuery);
-        EXPECT_EQ(link.take(kNameAnswer.size()), kNameAnswer);
+        link.put(nameQuery);
+        EXPECT_EQ(link.take(nameAnswer.size()), nameAnswer);
         link.put(bytes("00 03 0A 0D 11 13 7F FF")); // nothing is translated or echoed
         link.hangUp();
-        EXPECT_EQ(printer.bytesOfJob(job), kNameQuery + bytes("00 03 0A 0D 11 13 7F FF"));
+        EXPECT_EQ(printer.bytesOfJob(job), nameQuery + bytes("00 03 0A 0D 11 13 7F FF"));
     }
 }
 
@@ -178,8 +178,8 @@ TEST(Misbehaviour, Silent)
     behaviour.promptReplies = 1;
     const RecordingPrinter printer(behaving(behaviour));
     Link link(Link::toTcp(printer.port()));
-    link.put(kNameQuery + kNameQuery);
-    EXPECT_EQ(link.take(100, milliseconds(200)), kNameAnswer);
+    link.put(nameQuery + nameQuery);
+    EXPECT_EQ(link.take(100, milliseconds(200)), nameAnswer);
 }
 
 TEST(Misbehaviour, LateAndByteByByte)
@@ -190,10 +190,10 @@ TEST(Misbehaviour, LateAndByteByByte)
     const RecordingPrinter printer(behaving(behaviour));
     Link link(Link::toTcp(printer.port()));
     const auto asked = Clock::now();
-    link.put(kNameQuery);
-    EXPECT_EQ(link.take(1), kNameAnswer.substr(0, 1));
+    link.put(nameQuery);
+    EXPECT_EQ(link.take(1), nameAnswer.substr(0, 1));
     EXPECT_GE(Clock::now() - asked, milliseconds(60));
-    EXPECT_EQ(link.take(6), kNameAnswer.substr(1));
+    EXPECT_EQ(link.take(6), nameAnswer.substr(1));
     EXPECT_GE(Clock::now() - asked, milliseconds(60 + 6 * 10));
 }
 
@@ -235,7 +235,7 @@ TEST(Misbehaviour, Vanishes)
 
         printer.setBehaviour({}); // back again
         Link later(Link::toTcp(printer.port()));
-        later.put(kNameQuery);
-        EXPECT_EQ(later.take(kNameAnswer.size()), kNameAnswer);
+        later.put(nameQuery);
+        EXPECT_EQ(later.take(nameAnswer.size()), nameAnswer);
     }
 }

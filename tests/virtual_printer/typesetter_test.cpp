@@ -15,18 +15,18 @@ class BlackGlyphs : public Glyphs
 public:
     BlackGlyphs()
     {
-        a_.fill(0, 0, 12, 24);
-        b_.fill(0, 0, 9, 17);
+        m_a.fill(0, 0, 12, 24);
+        m_b.fill(0, 0, 9, 17);
     }
     const Bitmap& glyph(char16_t character, Font font) override
     {
-        return character == u' ' ? blank_ : font == Font::A ? a_ : b_;
+        return character == u' ' ? m_blank : font == Font::A ? m_a : m_b;
     }
 
 private:
-    Bitmap a_{12, 24};
-    Bitmap b_{9, 17};
-    Bitmap blank_;
+    Bitmap m_a{12, 24};
+    Bitmap m_b{9, 17};
+    Bitmap m_blank;
 };
 
 /** What a stream prints. */

@@ -6,17 +6,17 @@ namespace virtual_printer
 {
 
 Bitmap::Bitmap(int widthDots, int heightDots)
-    : width_(std::max(widthDots, 0)),
-      height_(std::max(heightDots, 0)),
-      bytesPerRow_((static_cast<std::size_t>(width_) + 7) / 8),
-      bits_(bytesPerRow_ * static_cast<std::size_t>(height_))
+    : m_width(std::max(widthDots, 0)),
+      m_height(std::max(heightDots, 0)),
+      m_bytesPerRow((static_cast<std::size_t>(m_width) + 7) / 8),
+      m_bits(m_bytesPerRow * static_cast<std::size_t>(m_height))
 {
 }
 
 void Bitmap::fill(int x, int y, int widthDots, int heightDots, bool black)
 {
     const int left = std::max(x, 0);
-    const int right = std::min(x + widthDots, width_);
+    const int right = std::min(x + widthDots, m_width);
     if (left >= right) {
         return;
     }
@@ -25,9 +25,9 @@ void Bitmap::fill(int x, int y, int widthDots, int heightDots, bool black)
     const auto apply = [black](std::uint8_t& byte, std::uint8_t mask) {
         byte = static_cast<std::uint8_t>(black ? byte | mask : byte & ~mask);
     };
-    for (int row = std::max(y, 0); row < std::min(y + heightDots, height_); ++row) {
-        std::uint8_t* first = bits_.data() + byteOf(left, row);
-        std::uint8_t* last = bits_.data() + byteOf(right - 1, row);
+    for (int row = std::max(y, 0); row < std::min(y + heightDots, m_height); ++row) {
+        std::uint8_t* first = m_bits.data() + byteOf(left, row);
+        std::uint8_t* last = m_bits.data() + byteOf(right - 1, row);
         if (first == last) {
             apply(*first, leftMask & rightMask);
             continue;
@@ -51,14 +51,14 @@ void Bitmap::draw(const Bitmap& source, int x, int y, int widthFactor, int heigh
 
 Bitmap Bitmap::top(int heightDots) const
 {
-    Bitmap cut(width_, std::min(heightDots, height_));
-    std::copy_n(bits_.begin(), cut.bits_.size(), cut.bits_.begin());
+    Bitmap cut(m_width, std::min(heightDots, m_height));
+    std::copy_n(m_bits.begin(), cut.m_bits.size(), cut.m_bits.begin());
     return cut;
 }
 
 bool Bitmap::isBlank() const
 {
-    return std::all_of(bits_.begin(), bits_.end(), [](std::uint8_t byte) { return byte == 0; });
+    return std::all_of(m_bits.begin(), m_bits.end(), [](std::uint8_t byte) { return byte == 0; });
 }
 
 } // namespace virtual_printer

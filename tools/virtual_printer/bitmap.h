@@ -1,8 +1,5 @@
-/** \file bitmap.h
- *  Dots on paper: one bit each, set where the paper is black.
- */
-#ifndef Q7_VIRTUAL_PRINTER_BITMAP_H
-#define Q7_VIRTUAL_PRINTER_BITMAP_H
+// Dots on paper: one bit each, set where the paper is black.
+#pragma once
 
 #include <cstdint>
 #include <vector>
@@ -17,52 +14,47 @@ public:
     /** All white. Negative sizes count as 0. */
     Bitmap(int widthDots, int heightDots);
 
-    [[nodiscard]] int width() const { return width_; }
-    [[nodiscard]] int height() const { return height_; }
-    [[nodiscard]] bool contains(int x, int y) const
-    {
-        return x >= 0 && y >= 0 && x < width_ && y < height_;
-    }
+    int width() const { return m_width; }
+    int height() const { return m_height; }
+    bool contains(int x, int y) const { return x >= 0 && y >= 0 && x < m_width && y < m_height; }
     /** Outside the bitmap everything is white. */
-    [[nodiscard]] bool at(int x, int y) const
+    bool at(int x, int y) const
     {
-        return contains(x, y) && (bits_[byteOf(x, y)] & maskOf(x)) != 0;
+        return contains(x, y) && (m_bits[byteOf(x, y)] & maskOf(x)) != 0;
     }
     /** Dots outside the bitmap are dropped. */
     void set(int x, int y, bool black = true)
     {
         if (contains(x, y)) {
-            std::uint8_t& byte = bits_[byteOf(x, y)];
+            std::uint8_t& byte = m_bits[byteOf(x, y)];
             byte = static_cast<std::uint8_t>(black ? byte | maskOf(x) : byte & ~maskOf(x));
         }
     }
     void fill(int x, int y, int widthDots, int heightDots, bool black = true);
     /** Blackens what is black in the source, each of its dots widthFactor by heightFactor large. */
     void draw(const Bitmap& source, int x, int y, int widthFactor = 1, int heightFactor = 1);
-    [[nodiscard]] bool isBlank() const;
+    bool isBlank() const;
     /** Its first rows, as many as there are. */
-    [[nodiscard]] Bitmap top(int heightDots) const;
+    Bitmap top(int heightDots) const;
 
     /** A row's bytes, the leftmost dot in the highest bit of the first. */
-    [[nodiscard]] const std::uint8_t* row(int y) const
+    const std::uint8_t* row(int y) const
     {
-        return bits_.data() + static_cast<std::size_t>(y) * bytesPerRow_;
+        return m_bits.data() + static_cast<std::size_t>(y) * m_bytesPerRow;
     }
-    [[nodiscard]] std::size_t bytesPerRow() const { return bytesPerRow_; }
+    std::size_t bytesPerRow() const { return m_bytesPerRow; }
 
 private:
-    [[nodiscard]] std::size_t byteOf(int x, int y) const
+    std::size_t byteOf(int x, int y) const
     {
-        return static_cast<std::size_t>(y) * bytesPerRow_ + static_cast<std::size_t>(x) / 8;
+        return static_cast<std::size_t>(y) * m_bytesPerRow + static_cast<std::size_t>(x) / 8;
     }
     static std::uint8_t maskOf(int x) { return static_cast<std::uint8_t>(0x80U >> (x % 8)); }
 
-    int width_ = 0;
-    int height_ = 0;
-    std::size_t bytesPerRow_ = 0;
-    std::vector<std::uint8_t> bits_;
+    int m_width = 0;
+    int m_height = 0;
+    std::size_t m_bytesPerRow = 0;
+    std::vector<std::uint8_t> m_bits;
 };
 
 } // namespace virtual_printer
-
-#endif

@@ -6,27 +6,27 @@ namespace
 {
 
 // The upper halves, 0x80 to 0xFF.
-constexpr char16_t kPc437[] =
+constexpr char16_t pc437[] =
     u"ÇüéâäàåçêëèïîìÄÅÉæÆôöòûùÿÖÜ¢£¥₧ƒáíóúñÑªº¿⌐¬½¼¡«»░▒▓│┤╡╢╖╕╣║╗╝╜╛┐"
     u"└┴┬├─┼╞╟╚╔╩╦╠═╬╧╨╤╥╙╘╒╓╫╪┘┌█▄▌▐▀αßΓπΣσµτΦΘΩδ∞φε∩≡±≥≤⌠⌡÷≈°∙·√ⁿ²■\u00A0";
-constexpr char16_t kPc850[] =
+constexpr char16_t pc850[] =
     u"ÇüéâäàåçêëèïîìÄÅÉæÆôöòûùÿÖÜø£Ø×ƒáíóúñÑªº¿®¬½¼¡«»░▒▓│┤ÁÂÀ©╣║╗╝¢¥┐"
     u"└┴┬├─┼ãÃ╚╔╩╦╠═╬¤ðÐÊËÈıÍÎÏ┘┌█▄¦Ì▀ÓßÔÒõÕµþÞÚÛÙýÝ¯´\u00AD±‗¾¶§÷¸°¨·¹³²■\u00A0";
-constexpr char16_t kPc860[] =
+constexpr char16_t pc860[] =
     u"ÇüéâãàÁçêÊèÍÔìÃÂÉÀÈôõòÚùÌÕÜ¢£Ù₧ÓáíóúñÑªº¿Ò¬½¼¡«»░▒▓│┤╡╢╖╕╣║╗╝╜╛┐"
     u"└┴┬├─┼╞╟╚╔╩╦╠═╬╧╨╤╥╙╘╒╓╫╪┘┌█▄▌▐▀αßΓπΣσµτΦΘΩδ∞φε∩≡±≥≤⌠⌡÷≈°∙·√ⁿ²■\u00A0";
-constexpr char16_t k1252Controls[] = u"€\u0081‚ƒ„…†‡ˆ‰Š‹Œ\u008DŽ\u008F\u0090‘’“”•–—˜™š›œ\u009DžŸ";
-static_assert(sizeof kPc437 == 129 * sizeof(char16_t) && sizeof kPc850 == sizeof kPc437 &&
-              sizeof kPc860 == sizeof kPc437 && sizeof k1252Controls == 33 * sizeof(char16_t));
+constexpr char16_t controlsOf1252[] = u"€\u0081‚ƒ„…†‡ˆ‰Š‹Œ\u008DŽ\u008F\u0090‘’“”•–—˜™š›œ\u009DžŸ";
+static_assert(sizeof pc437 == 129 * sizeof(char16_t) && sizeof pc850 == sizeof pc437 &&
+              sizeof pc860 == sizeof pc437 && sizeof controlsOf1252 == 33 * sizeof(char16_t));
 
-constexpr unsigned kCodeTable858 = 19;
+constexpr unsigned codeTable858 = 19;
 
 } // namespace
 
 bool hasCodeTable(unsigned table)
 {
-    return table == kCodeTable437 || table == 2 || table == 3 || table == kCodeTable1252 ||
-           table == kCodeTable858;
+    return table == codeTable437 || table == 2 || table == 3 || table == codeTable1252 ||
+           table == codeTable858;
 }
 
 char16_t characterOf(unsigned table, unsigned char byte)
@@ -37,15 +37,15 @@ char16_t characterOf(unsigned table, unsigned char byte)
     const unsigned index = byte - 0x80U;
     switch (table) {
     case 2:
-        return kPc850[index];
+        return pc850[index];
     case 3:
-        return kPc860[index];
-    case kCodeTable1252:
-        return byte < 0xA0 ? k1252Controls[index] : byte;
-    case kCodeTable858:
-        return byte == 0xD5 ? u'€' : kPc850[index];
+        return pc860[index];
+    case codeTable1252:
+        return byte < 0xA0 ? controlsOf1252[index] : byte;
+    case codeTable858:
+        return byte == 0xD5 ? u'€' : pc850[index];
     default:
-        return kPc437[index];
+        return pc437[index];
     }
 }
 
@@ -70,7 +70,7 @@ std::string quoted(std::string_view bytes)
     std::string text = "\"";
     for (const char c : bytes) {
         const auto byte = static_cast<unsigned char>(c);
-        const char16_t character = characterOf(kCodeTable1252, byte);
+        const char16_t character = characterOf(codeTable1252, byte);
         if (byte < 0x20 || byte == 0x7F || (character >= 0x80 && character < 0xA1)) {
             text += "\\x";
             text += digits[byte >> 4U];

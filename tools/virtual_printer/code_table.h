@@ -1,8 +1,5 @@
-/** \file code_table.h
- *  The printer's character code tables (ESC t n).
- */
-#ifndef Q7_VIRTUAL_PRINTER_CODE_TABLE_H
-#define Q7_VIRTUAL_PRINTER_CODE_TABLE_H
+// The printer's character code tables (ESC t n).
+#pragma once
 
 #include <string>
 #include <string_view>
@@ -10,9 +7,9 @@
 namespace virtual_printer
 {
 
-constexpr unsigned kCodeTable437 = 0;
+constexpr unsigned codeTable437 = 0;
 /** Latin-1 with the further letters of Windows 1252. */
-constexpr unsigned kCodeTable1252 = 16;
+constexpr unsigned codeTable1252 = 16;
 
 /** Whether this printer has the table: 0 PC437, 2 PC850, 3 PC860, 16 Windows 1252, 19 PC858. */
 bool hasCodeTable(unsigned table);
@@ -29,5 +26,3 @@ void appendUtf8(std::string& text, char16_t character);
 std::string quoted(std::string_view bytes);
 
 } // namespace virtual_printer
-
-#endif

@@ -1,8 +1,5 @@
-/** \file command.h
- *  What a receipt printer is told: one typed command per printer command or run of text.
- */
-#ifndef Q7_VIRTUAL_PRINTER_COMMAND_H
-#define Q7_VIRTUAL_PRINTER_COMMAND_H
+// What a receipt printer is told: one typed command per printer command or run of text.
+#pragma once
 
 #include <cstdint>
 #include <string>
@@ -58,43 +55,40 @@ enum class Op : std::uint8_t {
     QrLevel,
     QrStore,
     QrPrint,
-    QrAltSettings, /**< ORLA-K's dialect: module size */
-    QrAltPrint,    /**< ORLA-K's dialect: level and data, ended by a zero byte */
-    QrBemaPrint,   /**< SORBE's dialect: size, level, length and data in one command */
+    QrAltSettings, // ORLA-K's dialect: module size
+    QrAltPrint,    // ORLA-K's dialect: level and data, ended by a zero byte
+    QrBemaPrint,   // SORBE's dialect: size, level, length and data in one command
     Cut,
     Drawer,
     Buzzer,
     StatusQuery,
     IdentificationQuery,
-    TildeIdentification, /**< ~HI, the identification query of TESMO */
+    TildeIdentification, // ~HI, the identification query of TESMO
     AutomaticStatus,
-    NoEffect,  /**< known, of known length, and without effect on this printer */
-    Unknown,   /**< not a command of this printer */
-    Malformed, /**< a command with an argument outside its range; ends where the argument does */
-    Truncated, /**< the bytes ended in the middle of it */
+    NoEffect,  // known, of known length, and without effect on this printer
+    Unknown,   // not a command of this printer
+    Malformed, // a command with an argument outside its range; ends where the argument does
+    Truncated, // the bytes ended in the middle of it
 };
 
 /** One command or run of text, with its place in the byte stream. */
 struct Command {
     Op op = Op::Unknown;
-    std::uint64_t offset = 0; /**< of its first byte, from the start of the connection */
-    std::string bytes;        /**< all of it, data included */
-    std::size_t argsAt = 0;   /**< where its argument bytes begin */
-    std::size_t dataAt = 0;   /**< where its data of variable length begins */
-    std::size_t dataSize = 0; /**< how long that is, an ending zero byte not counted */
+    std::uint64_t offset = 0; // of its first byte, from the start of the connection
+    std::string bytes;        // all of it, data included
+    std::size_t argsAt = 0;   // where its argument bytes begin
+    std::size_t dataAt = 0;   // where its data of variable length begins
+    std::size_t dataSize = 0; // how long that is, an ending zero byte not counted
 
     /** The argument byte of that index; 0 beyond the last. */
-    [[nodiscard]] unsigned arg(std::size_t index) const
+    unsigned arg(std::size_t index) const
     {
         return argsAt + index < bytes.size() ? static_cast<unsigned char>(bytes[argsAt + index])
                                              : 0U;
     }
     /** Two argument bytes, low byte first. */
-    [[nodiscard]] unsigned arg16(std::size_t index) const
-    {
-        return arg(index) + 256U * arg(index + 1);
-    }
-    [[nodiscard]] std::string_view data() const
+    unsigned arg16(std::size_t index) const { return arg(index) + 256U * arg(index + 1); }
+    std::string_view data() const
     {
         return dataAt < bytes.size() ? std::string_view(bytes).substr(dataAt, dataSize)
                                      : std::string_view();
@@ -102,5 +96,3 @@ struct Command {
 };
 
 } // namespace virtual_printer
-
-#endif

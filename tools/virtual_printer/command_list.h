@@ -1,8 +1,5 @@
-/** \file command_list.h
- *  Commands as text, one line each, made for reading and for diffs.
- */
-#ifndef Q7_VIRTUAL_PRINTER_COMMAND_LIST_H
-#define Q7_VIRTUAL_PRINTER_COMMAND_LIST_H
+// Commands as text, one line each, made for reading and for diffs.
+#pragma once
 
 #include "command.h"
 
@@ -22,5 +19,3 @@ std::string listLine(const Command& command);
 std::string remarkLine(std::uint64_t offset, std::string_view remark);
 
 } // namespace virtual_printer
-
-#endif

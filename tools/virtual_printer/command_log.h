@@ -1,8 +1,5 @@
-/** \file command_log.h
- *  The bytes in a library log, so that a customer's log can be turned into a picture.
- */
-#ifndef Q7_VIRTUAL_PRINTER_COMMAND_LOG_H
-#define Q7_VIRTUAL_PRINTER_COMMAND_LOG_H
+// The bytes in a library log, so that a customer's log can be turned into a picture.
+#pragma once
 
 #include <istream>
 #include <string>
@@ -13,7 +10,7 @@ namespace virtual_printer
 
 /** What the log says was sent over one connection. */
 struct LoggedJob {
-    std::string model; /**< as the application named it; empty when the log does not show it */
+    std::string model; // as the application named it; empty when the log does not show it
     std::string bytes;
 };
 
@@ -25,5 +22,3 @@ struct LoggedJob {
 std::vector<LoggedJob> readCommandLog(std::istream& log, std::vector<int>& badLines);
 
 } // namespace virtual_printer
-
-#endif

@@ -8,28 +8,28 @@ namespace virtual_printer
 namespace
 {
 
-constexpr unsigned char kDle = 0x10;
-constexpr unsigned char kEsc = 0x1B;
-constexpr unsigned char kFs = 0x1C;
-constexpr unsigned char kGs = 0x1D;
+constexpr unsigned char dle = 0x10;
+constexpr unsigned char esc = 0x1B;
+constexpr unsigned char fs = 0x1C;
+constexpr unsigned char gs = 0x1D;
 
 /** How the end of a command is found. */
 enum class Shape : std::uint8_t {
-    Fixed,          /**< `count` argument bytes */
-    Function,       /**< a letter, a 16-bit length, that many bytes */
-    LongFunction,   /**< a letter, a 32-bit length, that many bytes */
-    ZeroEnded,      /**< up to a zero byte, `count` bytes at most */
-    Cut,            /**< a mode, and for some modes a feed */
-    Barcode,        /**< a symbology that decides the rest */
-    ColumnImage,    /**< ESC *: a mode and a count of columns */
-    RasterImage,    /**< GS v 0: bytes per row and rows */
-    DownloadImage,  /**< GS *: tiles of 8 bytes */
-    RealTimeStatus, /**< DLE EOT: some kinds carry one byte more */
-    RealTimeAction, /**< DLE DC4: the function decides the rest */
+    Fixed,          // `count` argument bytes
+    Function,       // a letter, a 16-bit length, that many bytes
+    LongFunction,   // a letter, a 32-bit length, that many bytes
+    ZeroEnded,      // up to a zero byte, `count` bytes at most
+    Cut,            // a mode, and for some modes a feed
+    Barcode,        // a symbology that decides the rest
+    ColumnImage,    // ESC *: a mode and a count of columns
+    RasterImage,    // GS v 0: bytes per row and rows
+    DownloadImage,  // GS *: tiles of 8 bytes
+    RealTimeStatus, // DLE EOT: some kinds carry one byte more
+    RealTimeAction, // DLE DC4: the function decides the rest
 };
 
 struct Spec {
-    unsigned char lead; /**< 0 for a control code that stands alone */
+    unsigned char lead; // 0 for a control code that stands alone
     unsigned char code;
     Op op;
     Shape shape;
@@ -38,86 +38,86 @@ struct Spec {
     std::string_view effect;
 };
 
-constexpr Spec kSpecs[] = {
+constexpr Spec specs[] = {
     {0, 0x09, Op::Tab, Shape::Fixed, 0, "HT", "tab"},
     {0, 0x0A, Op::LineFeed, Shape::Fixed, 0, "LF", ""},
     {0, 0x0C, Op::FormFeed, Shape::Fixed, 0, "FF", "print page, standard mode"},
     {0, 0x0D, Op::CarriageReturn, Shape::Fixed, 0, "CR", "ignored"},
     {0, 0x18, Op::CancelPage, Shape::Fixed, 0, "CAN", "clear page"},
-    {kDle, 0x04, Op::StatusQuery, Shape::RealTimeStatus, 1, "DLE EOT", "status query"},
-    {kDle, 0x05, Op::NoEffect, Shape::Fixed, 1, "DLE ENQ", "recover"},
-    {kDle, 0x14, Op::NoEffect, Shape::RealTimeAction, 0, "DLE DC4", "real-time action"},
-    {kEsc, 0x0C, Op::PrintPage, Shape::Fixed, 0, "ESC FF", "print page"},
-    {kEsc, ' ', Op::CharacterSpacing, Shape::Fixed, 1, "ESC SP", "character spacing"},
-    {kEsc, '!', Op::PrintMode, Shape::Fixed, 1, "ESC !", "print mode"},
-    {kEsc, '$', Op::AbsolutePosition, Shape::Fixed, 2, "ESC $", "horizontal position"},
-    {kEsc, '%', Op::NoEffect, Shape::Fixed, 1, "ESC %", "user-defined characters"},
-    {kEsc, '(', Op::NoEffect, Shape::Function, 0, "ESC (", "function, not drawn"},
-    {kEsc, '*', Op::NoEffect, Shape::ColumnImage, 0, "ESC *", "column image, not drawn"},
-    {kEsc, '-', Op::Underline, Shape::Fixed, 1, "ESC -", "underline"},
-    {kEsc, '2', Op::DefaultLineSpacing, Shape::Fixed, 0, "ESC 2", "default line spacing"},
-    {kEsc, '3', Op::LineSpacing, Shape::Fixed, 1, "ESC 3", "line spacing"},
-    {kEsc, '=', Op::NoEffect, Shape::Fixed, 1, "ESC =", "peripheral"},
-    {kEsc, '?', Op::NoEffect, Shape::Fixed, 1, "ESC ?", "cancel user-defined character"},
-    {kEsc, '@', Op::Reset, Shape::Fixed, 0, "ESC @", "reset"},
-    {kEsc, 'D', Op::TabStops, Shape::ZeroEnded, 32, "ESC D", "tab stops"},
-    {kEsc, 'E', Op::Emphasis, Shape::Fixed, 1, "ESC E", "emphasis"},
-    {kEsc, 'G', Op::DoubleStrike, Shape::Fixed, 1, "ESC G", "double strike"},
-    {kEsc, 'J', Op::FeedDots, Shape::Fixed, 1, "ESC J", "feed dots"},
-    {kEsc, 'L', Op::PageMode, Shape::Fixed, 0, "ESC L", "page mode"},
-    {kEsc, 'M', Op::Font, Shape::Fixed, 1, "ESC M", "font"},
-    {kEsc, 'R', Op::NoEffect, Shape::Fixed, 1, "ESC R", "international characters"},
-    {kEsc, 'S', Op::StandardMode, Shape::Fixed, 0, "ESC S", "standard mode"},
-    {kEsc, 'T', Op::PageDirection, Shape::Fixed, 1, "ESC T", "page direction"},
-    {kEsc, 'V', Op::NoEffect, Shape::Fixed, 1, "ESC V", "rotation, not drawn"},
-    {kEsc, 'W', Op::PageArea, Shape::Fixed, 8, "ESC W", "page area"},
-    {kEsc, '\\', Op::RelativePosition, Shape::Fixed, 2, "ESC \\", "move horizontally"},
-    {kEsc, 'a', Op::Alignment, Shape::Fixed, 1, "ESC a", "alignment"},
-    {kEsc, 'c', Op::NoEffect, Shape::Fixed, 2, "ESC c", "sensors and keys"},
-    {kEsc, 'd', Op::FeedLines, Shape::Fixed, 1, "ESC d", "feed lines"},
-    {kEsc, 'i', Op::Cut, Shape::Fixed, 0, "ESC i", "cut"},
-    {kEsc, 'm', Op::Cut, Shape::Fixed, 0, "ESC m", "cut"},
-    {kEsc, 'p', Op::Drawer, Shape::Fixed, 3, "ESC p", "drawer"},
-    {kEsc, 'r', Op::NoEffect, Shape::Fixed, 1, "ESC r", "colour"},
-    {kEsc, 't', Op::CodeTable, Shape::Fixed, 1, "ESC t", "code table"},
-    {kEsc, '{', Op::NoEffect, Shape::Fixed, 1, "ESC {", "upside down, not drawn"},
-    {kFs, '!', Op::NoEffect, Shape::Fixed, 1, "FS !", "Kanji print mode"},
-    {kFs, '&', Op::NoEffect, Shape::Fixed, 0, "FS &", "Kanji mode"},
-    {kFs, '(', Op::NoEffect, Shape::Function, 0, "FS (", "function, not drawn"},
-    {kFs, '-', Op::NoEffect, Shape::Fixed, 1, "FS -", "Kanji underline"},
-    {kFs, '.', Op::NoEffect, Shape::Fixed, 0, "FS .", "no Kanji mode"},
-    {kFs, 'C', Op::NoEffect, Shape::Fixed, 1, "FS C", "Kanji code"},
-    {kFs, 'S', Op::NoEffect, Shape::Fixed, 2, "FS S", "Kanji spacing"},
-    {kFs, 'W', Op::NoEffect, Shape::Fixed, 1, "FS W", "Kanji size"},
-    {kFs, 'p', Op::NoEffect, Shape::Fixed, 2, "FS p", "stored image, not drawn"},
-    {kGs, '!', Op::CharacterSize, Shape::Fixed, 1, "GS !", "character size"},
-    {kGs, '$', Op::PageVerticalPosition, Shape::Fixed, 2, "GS $", "vertical position"},
-    {kGs, '(', Op::NoEffect, Shape::Function, 0, "GS (", "function, not drawn"},
-    {kGs, '*', Op::NoEffect, Shape::DownloadImage, 0, "GS *", "image definition, not drawn"},
-    {kGs, '/', Op::NoEffect, Shape::Fixed, 1, "GS /", "print defined image, not drawn"},
-    {kGs, '8', Op::NoEffect, Shape::LongFunction, 0, "GS 8", "long function, not drawn"},
-    {kGs, ':', Op::NoEffect, Shape::Fixed, 0, "GS :", "macro"},
-    {kGs, 'B', Op::Reverse, Shape::Fixed, 1, "GS B", "white on black"},
-    {kGs, 'H', Op::BarcodeTextPosition, Shape::Fixed, 1, "GS H", "barcode text position"},
-    {kGs, 'I', Op::IdentificationQuery, Shape::Fixed, 1, "GS I", "identification query"},
-    {kGs, 'L', Op::LeftMargin, Shape::Fixed, 2, "GS L", "left margin"},
-    {kGs, 'P', Op::NoEffect, Shape::Fixed, 2, "GS P", "motion units, not drawn"},
-    {kGs, 'T', Op::NoEffect, Shape::Fixed, 1, "GS T", "to the line's start"},
-    {kGs, 'V', Op::Cut, Shape::Cut, 1, "GS V", "cut"},
-    {kGs, 'W', Op::PrintWidth, Shape::Fixed, 2, "GS W", "print width"},
-    {kGs, '\\', Op::PageVerticalMove, Shape::Fixed, 2, "GS \\", "move vertically"},
-    {kGs, '^', Op::NoEffect, Shape::Fixed, 3, "GS ^", "macro"},
-    {kGs, 'a', Op::AutomaticStatus, Shape::Fixed, 1, "GS a", "automatic status"},
-    {kGs, 'b', Op::NoEffect, Shape::Fixed, 1, "GS b", "smoothing"},
-    {kGs, 'c', Op::NoEffect, Shape::Fixed, 0, "GS c", "counter"},
-    {kGs, 'f', Op::BarcodeTextFont, Shape::Fixed, 1, "GS f", "barcode text font"},
-    {kGs, 'h', Op::BarcodeHeight, Shape::Fixed, 1, "GS h", "barcode height"},
-    {kGs, 'k', Op::Barcode, Shape::Barcode, 1, "GS k", "barcode"},
-    {kGs, 'o', Op::QrAltSettings, Shape::Fixed, 4, "GS o", "QR settings (ORLA-K)"},
-    {kGs, 'r', Op::StatusQuery, Shape::Fixed, 1, "GS r", "status query"},
-    {kGs, 'v', Op::RasterImage, Shape::RasterImage, 0, "GS v 0", "raster image"},
-    {kGs, 'w', Op::BarcodeModuleWidth, Shape::Fixed, 1, "GS w", "barcode module width"},
-    {kGs, 'z', Op::NoEffect, Shape::Fixed, 3, "GS z", "on-line recovery"},
+    {dle, 0x04, Op::StatusQuery, Shape::RealTimeStatus, 1, "DLE EOT", "status query"},
+    {dle, 0x05, Op::NoEffect, Shape::Fixed, 1, "DLE ENQ", "recover"},
+    {dle, 0x14, Op::NoEffect, Shape::RealTimeAction, 0, "DLE DC4", "real-time action"},
+    {esc, 0x0C, Op::PrintPage, Shape::Fixed, 0, "ESC FF", "print page"},
+    {esc, ' ', Op::CharacterSpacing, Shape::Fixed, 1, "ESC SP", "character spacing"},
+    {esc, '!', Op::PrintMode, Shape::Fixed, 1, "ESC !", "print mode"},
+    {esc, '$', Op::AbsolutePosition, Shape::Fixed, 2, "ESC $", "horizontal position"},
+    {esc, '%', Op::NoEffect, Shape::Fixed, 1, "ESC %", "user-defined characters"},
+    {esc, '(', Op::NoEffect, Shape::Function, 0, "ESC (", "function, not drawn"},
+    {esc, '*', Op::NoEffect, Shape::ColumnImage, 0, "ESC *", "column image, not drawn"},
+    {esc, '-', Op::Underline, Shape::Fixed, 1, "ESC -", "underline"},
+    {esc, '2', Op::DefaultLineSpacing, Shape::Fixed, 0, "ESC 2", "default line spacing"},
+    {esc, '3', Op::LineSpacing, Shape::Fixed, 1, "ESC 3", "line spacing"},
+    {esc, '=', Op::NoEffect, Shape::Fixed, 1, "ESC =", "peripheral"},
+    {esc, '?', Op::NoEffect, Shape::Fixed, 1, "ESC ?", "cancel user-defined character"},
+    {esc, '@', Op::Reset, Shape::Fixed, 0, "ESC @", "reset"},
+    {esc, 'D', Op::TabStops, Shape::ZeroEnded, 32, "ESC D", "tab stops"},
+    {esc, 'E', Op::Emphasis, Shape::Fixed, 1, "ESC E", "emphasis"},
+    {esc, 'G', Op::DoubleStrike, Shape::Fixed, 1, "ESC G", "double strike"},
+    {esc, 'J', Op::FeedDots, Shape::Fixed, 1, "ESC J", "feed dots"},
+    {esc, 'L', Op::PageMode, Shape::Fixed, 0, "ESC L", "page mode"},
+    {esc, 'M', Op::Font, Shape::Fixed, 1, "ESC M", "font"},
+    {esc, 'R', Op::NoEffect, Shape::Fixed, 1, "ESC R", "international characters"},
+    {esc, 'S', Op::StandardMode, Shape::Fixed, 0, "ESC S", "standard mode"},
+    {esc, 'T', Op::PageDirection, Shape::Fixed, 1, "ESC T", "page direction"},
+    {esc, 'V', Op::NoEffect, Shape::Fixed, 1, "ESC V", "rotation, not drawn"},
+    {esc, 'W', Op::PageArea, Shape::Fixed, 8, "ESC W", "page area"},
+    {esc, '\\', Op::RelativePosition, Shape::Fixed, 2, "ESC \\", "move horizontally"},
+    {esc, 'a', Op::Alignment, Shape::Fixed, 1, "ESC a", "alignment"},
+    {esc, 'c', Op::NoEffect, Shape::Fixed, 2, "ESC c", "sensors and keys"},
+    {esc, 'd', Op::FeedLines, Shape::Fixed, 1, "ESC d", "feed lines"},
+    {esc, 'i', Op::Cut, Shape::Fixed, 0, "ESC i", "cut"},
+    {esc, 'm', Op::Cut, Shape::Fixed, 0, "ESC m", "cut"},
+    {esc, 'p', Op::Drawer, Shape::Fixed, 3, "ESC p", "drawer"},
+    {esc, 'r', Op::NoEffect, Shape::Fixed, 1, "ESC r", "colour"},
+    {esc, 't', Op::CodeTable, Shape::Fixed, 1, "ESC t", "code table"},
+    {esc, '{', Op::NoEffect, Shape::Fixed, 1, "ESC {", "upside down, not drawn"},
+    {fs, '!', Op::NoEffect, Shape::Fixed, 1, "FS !", "Kanji print mode"},
+    {fs, '&', Op::NoEffect, Shape::Fixed, 0, "FS &", "Kanji mode"},
+    {fs, '(', Op::NoEffect, Shape::Function, 0, "FS (", "function, not drawn"},
+    {fs, '-', Op::NoEffect, Shape::Fixed, 1, "FS -", "Kanji underline"},
+    {fs, '.', Op::NoEffect, Shape::Fixed, 0, "FS .", "no Kanji mode"},
+    {fs, 'C', Op::NoEffect, Shape::Fixed, 1, "FS C", "Kanji code"},
+    {fs, 'S', Op::NoEffect, Shape::Fixed, 2, "FS S", "Kanji spacing"},
+    {fs, 'W', Op::NoEffect, Shape::Fixed, 1, "FS W", "Kanji size"},
+    {fs, 'p', Op::NoEffect, Shape::Fixed, 2, "FS p", "stored image, not drawn"},
+    {gs, '!', Op::CharacterSize, Shape::Fixed, 1, "GS !", "character size"},
+    {gs, '$', Op::PageVerticalPosition, Shape::Fixed, 2, "GS $", "vertical position"},
+    {gs, '(', Op::NoEffect, Shape::Function, 0, "GS (", "function, not drawn"},
+    {gs, '*', Op::NoEffect, Shape::DownloadImage, 0, "GS *", "image definition, not drawn"},
+    {gs, '/', Op::NoEffect, Shape::Fixed, 1, "GS /", "print defined image, not drawn"},
+    {gs, '8', Op::NoEffect, Shape::LongFunction, 0, "GS 8", "long function, not drawn"},
+    {gs, ':', Op::NoEffect, Shape::Fixed, 0, "GS :", "macro"},
+    {gs, 'B', Op::Reverse, Shape::Fixed, 1, "GS B", "white on black"},
+    {gs, 'H', Op::BarcodeTextPosition, Shape::Fixed, 1, "GS H", "barcode text position"},
+    {gs, 'I', Op::IdentificationQuery, Shape::Fixed, 1, "GS I", "identification query"},
+    {gs, 'L', Op::LeftMargin, Shape::Fixed, 2, "GS L", "left margin"},
+    {gs, 'P', Op::NoEffect, Shape::Fixed, 2, "GS P", "motion units, not drawn"},
+    {gs, 'T', Op::NoEffect, Shape::Fixed, 1, "GS T", "to the line's start"},
+    {gs, 'V', Op::Cut, Shape::Cut, 1, "GS V", "cut"},
+    {gs, 'W', Op::PrintWidth, Shape::Fixed, 2, "GS W", "print width"},
+    {gs, '\\', Op::PageVerticalMove, Shape::Fixed, 2, "GS \\", "move vertically"},
+    {gs, '^', Op::NoEffect, Shape::Fixed, 3, "GS ^", "macro"},
+    {gs, 'a', Op::AutomaticStatus, Shape::Fixed, 1, "GS a", "automatic status"},
+    {gs, 'b', Op::NoEffect, Shape::Fixed, 1, "GS b", "smoothing"},
+    {gs, 'c', Op::NoEffect, Shape::Fixed, 0, "GS c", "counter"},
+    {gs, 'f', Op::BarcodeTextFont, Shape::Fixed, 1, "GS f", "barcode text font"},
+    {gs, 'h', Op::BarcodeHeight, Shape::Fixed, 1, "GS h", "barcode height"},
+    {gs, 'k', Op::Barcode, Shape::Barcode, 1, "GS k", "barcode"},
+    {gs, 'o', Op::QrAltSettings, Shape::Fixed, 4, "GS o", "QR settings (ORLA-K)"},
+    {gs, 'r', Op::StatusQuery, Shape::Fixed, 1, "GS r", "status query"},
+    {gs, 'v', Op::RasterImage, Shape::RasterImage, 0, "GS v 0", "raster image"},
+    {gs, 'w', Op::BarcodeModuleWidth, Shape::Fixed, 1, "GS w", "barcode module width"},
+    {gs, 'z', Op::NoEffect, Shape::Fixed, 3, "GS z", "on-line recovery"},
 };
 
 /** Functions of ESC ( and GS ( that this printer knows, by the bytes behind the length. */
@@ -125,19 +125,19 @@ struct FunctionSpec {
     unsigned char lead;
     unsigned char letter;
     Op op;
-    std::string_view head; /**< the first data bytes, which name the function */
-    std::size_t length;    /**< of the whole data; 0 for any */
+    std::string_view head; // the first data bytes, which name the function
+    std::size_t length;    // of the whole data; 0 for any
     std::string_view effect;
 };
 
-constexpr FunctionSpec kFunctions[] = {
-    {kEsc, 'A', Op::Buzzer, "\x61\x64", 5, "buzzer"},
-    {kGs, 'L', Op::StoredGraphic, "\x30\x45", 6, "print stored graphic"},
-    {kGs, 'k', Op::QrModel, "\x31\x41", 4, "QR model"},
-    {kGs, 'k', Op::QrModuleSize, "\x31\x43", 3, "QR module size"},
-    {kGs, 'k', Op::QrLevel, "\x31\x45", 3, "QR level"},
-    {kGs, 'k', Op::QrStore, "\x31\x50\x30", 0, "QR data"},
-    {kGs, 'k', Op::QrPrint, "\x31\x51\x30", 3, "print QR code"},
+constexpr FunctionSpec functions[] = {
+    {esc, 'A', Op::Buzzer, "\x61\x64", 5, "buzzer"},
+    {gs, 'L', Op::StoredGraphic, "\x30\x45", 6, "print stored graphic"},
+    {gs, 'k', Op::QrModel, "\x31\x41", 4, "QR model"},
+    {gs, 'k', Op::QrModuleSize, "\x31\x43", 3, "QR module size"},
+    {gs, 'k', Op::QrLevel, "\x31\x45", 3, "QR level"},
+    {gs, 'k', Op::QrStore, "\x31\x50\x30", 0, "QR data"},
+    {gs, 'k', Op::QrPrint, "\x31\x51\x30", 3, "print QR code"},
 };
 
 const Spec* findSpec(unsigned char lead, unsigned char code)
@@ -148,7 +148,7 @@ const Spec* findSpec(unsigned char lead, unsigned char code)
     };
     static const auto table = [&row] {
         std::array<std::array<const Spec*, 256>, 5> rows{};
-        for (const Spec& spec : kSpecs) {
+        for (const Spec& spec : specs) {
             rows[row(spec.lead)][spec.code] = &spec;
         }
         return rows;
@@ -156,7 +156,7 @@ const Spec* findSpec(unsigned char lead, unsigned char code)
     return table[row(lead)][code];
 }
 
-constexpr std::size_t kEndNotSeen = static_cast<std::size_t>(-1);
+constexpr std::size_t endNotSeen = static_cast<std::size_t>(-1);
 
 /** What the next command is and how far it reaches; more than the bytes at hand while it is not
  *  whole. dataAt is then the length of the part that certainly belongs to it. */
@@ -186,7 +186,7 @@ Extent malformed(std::size_t length)
 /** The arguments that decide the length are still to come: `head` bytes are needed. */
 Extent unfinished(std::size_t head)
 {
-    return {Op::Truncated, kEndNotSeen, head, head, 0};
+    return {Op::Truncated, endNotSeen, head, head, 0};
 }
 
 Extent zeroEnded(Op op, std::string_view rest, std::size_t argsAt, std::size_t dataAt,
@@ -202,12 +202,9 @@ Extent zeroEnded(Op op, std::string_view rest, std::size_t argsAt, std::size_t d
 /** Bytes at hand, read without fear of their end. */
 struct Reader {
     std::string_view rest;
-    [[nodiscard]] bool has(std::size_t count) const { return rest.size() >= count; }
-    [[nodiscard]] std::size_t at(std::size_t i) const
-    {
-        return static_cast<unsigned char>(rest[i]);
-    }
-    [[nodiscard]] std::size_t at16(std::size_t i) const { return at(i) + 256 * at(i + 1); }
+    bool has(std::size_t count) const { return rest.size() >= count; }
+    std::size_t at(std::size_t i) const { return static_cast<unsigned char>(rest[i]); }
+    std::size_t at16(std::size_t i) const { return at(i) + 256 * at(i + 1); }
 };
 
 bool isOneOf(std::size_t value, std::string_view values)
@@ -221,7 +218,7 @@ Extent measureFunction(const Reader& in)
         return unfinished(5);
     }
     const std::size_t size = in.at16(3);
-    for (const FunctionSpec& function : kFunctions) {
+    for (const FunctionSpec& function : functions) {
         if (function.lead != in.at(0) || function.letter != in.at(2) ||
             size < function.head.size()) {
             continue;
@@ -286,8 +283,8 @@ Extent measureBarcode(const Reader& in)
 Extent measureImage(const Reader& in, const Spec& spec)
 {
     const auto bounded = [&spec](std::size_t argsAt, std::size_t dataAt, std::size_t size) {
-        return size > CommandParser::kLongestCommand ? malformed(dataAt)
-                                                     : withData(spec.op, argsAt, dataAt, size);
+        return size > CommandParser::longestCommand ? malformed(dataAt)
+                                                    : withData(spec.op, argsAt, dataAt, size);
     };
     switch (spec.shape) {
     case Shape::ColumnImage:
@@ -367,34 +364,34 @@ Extent measureCommand(std::string_view rest)
     }
 }
 
-constexpr std::string_view kTildeQuery = "~HI";
+constexpr std::string_view tildeQuery = "~HI";
 
 Extent measureText(std::string_view rest, bool tildeQueries)
 {
     if (tildeQueries && rest[0] == '~' &&
-        kTildeQuery.substr(0, rest.size()) == rest.substr(0, kTildeQuery.size())) {
-        return fixed(Op::TildeIdentification, kTildeQuery.size(), 0);
+        tildeQuery.substr(0, rest.size()) == rest.substr(0, tildeQuery.size())) {
+        return fixed(Op::TildeIdentification, tildeQuery.size(), 0);
     }
-    const std::string_view run = rest.substr(0, CommandParser::kLongestText);
+    const std::string_view run = rest.substr(0, CommandParser::longestText);
     const auto* end = std::find_if(run.begin() + 1, run.end(), [tildeQueries](char c) {
         return static_cast<unsigned char>(c) < 0x20 || (tildeQueries && c == '~');
     });
     const auto length = static_cast<std::size_t>(end - run.begin());
     // More of the same run may be on its way.
-    const bool open = length == rest.size() && length < CommandParser::kLongestText;
-    return {Op::Text, open ? kEndNotSeen : length, 0, 0, length};
+    const bool open = length == rest.size() && length < CommandParser::longestText;
+    return {Op::Text, open ? endNotSeen : length, 0, 0, length};
 }
 
 } // namespace
 
 CommandParser::CommandParser(Receiver receiver, TildeQueries tilde)
-    : receiver_(std::move(receiver)), tilde_(tilde)
+    : m_receiver(std::move(receiver)), m_tilde(tilde)
 {
 }
 
 void CommandParser::feed(std::string_view bytes)
 {
-    pending_.append(bytes);
+    m_pending.append(bytes);
     takeCommands(false);
 }
 
@@ -406,11 +403,11 @@ void CommandParser::finish()
 void CommandParser::takeCommands(bool ended)
 {
     std::size_t at = 0;
-    while (at < pending_.size()) {
-        const std::string_view rest = std::string_view(pending_).substr(at);
+    while (at < m_pending.size()) {
+        const std::string_view rest = std::string_view(m_pending).substr(at);
         Extent extent = static_cast<unsigned char>(rest[0]) < 0x20
                             ? measureCommand(rest)
-                            : measureText(rest, tilde_ == TildeQueries::Yes);
+                            : measureText(rest, m_tilde == TildeQueries::Yes);
         if (extent.total > rest.size()) {
             if (!ended) {
                 break;
@@ -424,12 +421,12 @@ void CommandParser::takeCommands(bool ended)
                 extent.argsAt = extent.dataAt = extent.total;
             }
         }
-        receiver_(Command{extent.op, offset_ + at, std::string(rest.substr(0, extent.total)),
-                          extent.argsAt, extent.dataAt, extent.dataSize});
+        m_receiver(Command{extent.op, m_offset + at, std::string(rest.substr(0, extent.total)),
+                           extent.argsAt, extent.dataAt, extent.dataSize});
         at += extent.total;
     }
-    offset_ += at;
-    pending_.erase(0, at);
+    m_offset += at;
+    m_pending.erase(0, at);
 }
 
 std::vector<Command> parseAll(std::string_view bytes)
@@ -447,7 +444,7 @@ CommandName nameOf(const Command& command)
         return {};
     }
     if (command.op == Op::TildeIdentification) {
-        return {std::string(kTildeQuery), "identification query"};
+        return {std::string(tildeQuery), "identification query"};
     }
     const auto first = static_cast<unsigned char>(command.bytes[0]);
     const bool lead = isOneOf(first, "\x10\x1B\x1C\x1D");
@@ -462,7 +459,7 @@ CommandName nameOf(const Command& command)
     CommandName found{std::string(spec->name), spec->effect};
     if (spec->shape == Shape::Function && command.bytes.size() > 2) {
         found.name.append(" ").append(1, command.bytes[2]);
-        for (const FunctionSpec& function : kFunctions) {
+        for (const FunctionSpec& function : functions) {
             if (function.op == command.op) {
                 found.effect = function.effect;
             }

@@ -1,8 +1,5 @@
-/** \file command_parser.h
- *  Bytes in, commands out. Knows lengths and ranges, nothing of paper, links or files.
- */
-#ifndef Q7_VIRTUAL_PRINTER_COMMAND_PARSER_H
-#define Q7_VIRTUAL_PRINTER_COMMAND_PARSER_H
+// Bytes in, commands out. Knows lengths and ranges, nothing of paper, links or files.
+#pragma once
 
 #include "command.h"
 
@@ -14,16 +11,16 @@ namespace virtual_printer
 
 /** Cuts a byte stream, handed over in pieces of any size, into commands. The commands do not depend
  *  on where the pieces end. Whatever the bytes are, every one of them ends up in exactly one
- *  command, and what is held back is bounded (kLongestCommand). */
+ *  command, and what is held back is bounded (longestCommand). */
 class CommandParser
 {
 public:
     using Receiver = std::function<void(const Command&)>;
 
     /** Commands announcing more bytes than this are malformed: what follows them is printed. */
-    static constexpr std::size_t kLongestCommand = 1048576;
+    static constexpr std::size_t longestCommand = 1048576;
     /** A run of text is handed on at the latest when it is this long. */
-    static constexpr std::size_t kLongestText = 4096;
+    static constexpr std::size_t longestText = 4096;
 
     enum class TildeQueries : bool { No, Yes };
 
@@ -37,10 +34,10 @@ public:
 private:
     void takeCommands(bool ended);
 
-    Receiver receiver_;
-    TildeQueries tilde_;
-    std::string pending_;
-    std::uint64_t offset_ = 0;
+    Receiver m_receiver;
+    TildeQueries m_tilde;
+    std::string m_pending;
+    std::uint64_t m_offset = 0;
 };
 
 /** All commands of a complete stream. */
@@ -55,5 +52,3 @@ struct CommandName {
 CommandName nameOf(const Command& command);
 
 } // namespace virtual_printer
-
-#endif

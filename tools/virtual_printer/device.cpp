@@ -9,7 +9,7 @@ namespace
 {
 
 // Models without a stated width are drawn on the usual 80 mm paper.
-constexpr Model kModels[] = {
+constexpr Model models[] = {
     {"VANTA", 48, false, false, false},    {"VESPA", 48, false, false, false},
     {"VOLTA", 48, false, false, true},     {"ORLA-K", 42, false, false, true},
     {"PINTA", 48, false, false, false},    {"RANZA", 48, false, false, false},
@@ -81,17 +81,17 @@ std::string identificationReply(unsigned kind, const Model& model)
 
 const Model* findModel(std::string_view name)
 {
-    const auto* hit = std::find_if(std::begin(kModels), std::end(kModels), [&](const Model& model) {
+    const auto* hit = std::find_if(std::begin(models), std::end(models), [&](const Model& model) {
         return std::equal(name.begin(), name.end(), model.name.begin(), model.name.end(),
                           [](unsigned char a, unsigned char b) { return std::toupper(a) == b; });
     });
-    return hit == std::end(kModels) ? nullptr : hit;
+    return hit == std::end(models) ? nullptr : hit;
 }
 
 std::string modelNames()
 {
     std::string names;
-    for (const Model& model : kModels) {
+    for (const Model& model : models) {
         names.append(names.empty() ? "" : " ").append(model.name);
     }
     return names;

@@ -23,47 +23,47 @@ BlankGlyphs blankGlyphs;
 } // namespace
 
 FileJob::FileJob(const Workshop& workshop, const Model& model, int number)
-    : workshop_(workshop),
-      number_(number),
-      stem_(workshop.stem + "-" + std::to_string(number)),
-      bytes_(openForWriting(stem_ + ".bin")),
-      list_(openForWriting(stem_ + ".list")),
-      receipts_(stem_, model.widthDots(), workshop.glyphs,
-                [&workshop](const std::string& path) { workshop.say("wrote " + path); }),
-      typesetter_(model, workshop.glyphs != nullptr ? *workshop.glyphs : blankGlyphs,
-                  workshop.graphics, receipts_,
-                  [this](std::uint64_t offset, std::string_view remark) {
-                      list_ << remarkLine(offset, remark) << '\n';
-                  })
+    : m_workshop(workshop),
+      m_number(number),
+      m_stem(workshop.stem + "-" + std::to_string(number)),
+      m_bytes(openForWriting(m_stem + ".bin")),
+      m_list(openForWriting(m_stem + ".list")),
+      m_receipts(m_stem, model.widthDots(), workshop.glyphs,
+                 [&workshop](const std::string& path) { workshop.say("wrote " + path); }),
+      m_typesetter(model, workshop.glyphs != nullptr ? *workshop.glyphs : blankGlyphs,
+                   workshop.graphics, m_receipts,
+                   [this](std::uint64_t offset, std::string_view remark) {
+                       m_list << remarkLine(offset, remark) << '\n';
+                   })
 {
 }
 
 void FileJob::received(std::string_view bytes)
 {
-    bytes_ << bytes << std::flush;
-    size_ += bytes.size();
+    m_bytes << bytes << std::flush;
+    m_size += bytes.size();
 }
 
 void FileJob::command(const Command& command)
 {
-    list_ << listLine(command) << '\n';
+    m_list << listLine(command) << '\n';
     if (command.op == Op::Unknown || command.op == Op::Malformed || command.op == Op::Truncated) {
-        firstFault_ = faults_++ == 0 ? command.offset : firstFault_;
+        m_firstFault = m_faults++ == 0 ? command.offset : m_firstFault;
     }
-    typesetter_.command(command);
+    m_typesetter.command(command);
 }
 
 void FileJob::ended()
 {
-    typesetter_.finish(size_);
-    receipts_.end();
-    list_.close();
-    std::string line = "job " + std::to_string(number_) + " ended";
-    if (faults_ > 0) {
-        line += ", not understood: " + std::to_string(faults_) + ", the first at byte " +
-                std::to_string(firstFault_);
+    m_typesetter.finish(m_size);
+    m_receipts.end();
+    m_list.close();
+    std::string line = "job " + std::to_string(m_number) + " ended";
+    if (m_faults > 0) {
+        line += ", not understood: " + std::to_string(m_faults) + ", the first at byte " +
+                std::to_string(m_firstFault);
     }
-    workshop_.say(line);
+    m_workshop.say(line);
 }
 
 void runJob(Job& job, std::string_view bytes, const Model& model)

@@ -1,8 +1,5 @@
-/** \file file_job.h
- *  One connection written to files: its bytes, its commands and its receipts.
- */
-#ifndef Q7_VIRTUAL_PRINTER_FILE_JOB_H
-#define Q7_VIRTUAL_PRINTER_FILE_JOB_H
+// One connection written to files: its bytes, its commands and its receipts.
+#pragma once
 
 #include "receipt_files.h"
 #include "server.h"
@@ -13,10 +10,10 @@ namespace virtual_printer
 
 /** What all jobs of a run share; outlives them. */
 struct Workshop {
-    std::string stem;         /**< path of the files without "-J" */
-    Glyphs* glyphs = nullptr; /**< null: no pictures */
+    std::string stem;         // path of the files without "-J"
+    Glyphs* glyphs = nullptr; // null: no pictures
     Graphics graphics = {};
-    std::function<void(const std::string& line)> say; /**< takes what happened, a line each */
+    std::function<void(const std::string& line)> say; // takes what happened, a line each
 };
 
 class FileJob : public Job
@@ -30,21 +27,19 @@ public:
     void ended() override;
 
 private:
-    const Workshop& workshop_;
-    int number_;
-    std::string stem_;
-    std::ofstream bytes_;
-    std::ofstream list_;
-    ReceiptFiles receipts_;
-    Typesetter typesetter_;
-    std::uint64_t size_ = 0;
-    int faults_ = 0;
-    std::uint64_t firstFault_ = 0;
+    const Workshop& m_workshop;
+    int m_number;
+    std::string m_stem;
+    std::ofstream m_bytes;
+    std::ofstream m_list;
+    ReceiptFiles m_receipts;
+    Typesetter m_typesetter;
+    std::uint64_t m_size = 0;
+    int m_faults = 0;
+    std::uint64_t m_firstFault = 0;
 };
 
 /** Runs complete bytes through a job, as if they had come over a connection. */
 void runJob(Job& job, std::string_view bytes, const Model& model);
 
 } // namespace virtual_printer
-
-#endif

@@ -14,7 +14,7 @@ namespace virtual_printer
 namespace
 {
 
-constexpr char kUsualFont[] = "/usr/share/fonts/truetype/dejavu/DejaVuSansMono.ttf";
+constexpr char usualFont[] = "/usr/share/fonts/truetype/dejavu/DejaVuSansMono.ttf";
 
 /** Size at which a character of the usual font is as wide as the cell, and its base line. */
 struct Fit {
@@ -47,7 +47,7 @@ OffscreenApplication::OffscreenApplication()
     // Without a desktop session Qt warns about folders that nothing here needs.
     const QtMessageHandler usual =
         qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
-    application_ = std::make_unique<QGuiApplication>(argc, argv);
+    m_application = std::make_unique<QGuiApplication>(argc, argv);
     qInstallMessageHandler(usual);
 }
 
@@ -55,26 +55,26 @@ OffscreenApplication::~OffscreenApplication() = default;
 
 FontGlyphs::FontGlyphs(const std::string& fontFile)
 {
-    const QString path = fontFile.empty() ? QString(kUsualFont) : QString::fromStdString(fontFile);
+    const QString path = fontFile.empty() ? QString(usualFont) : QString::fromStdString(fontFile);
     const QStringList families =
         QFontDatabase::applicationFontFamilies(QFontDatabase::addApplicationFont(path));
     if (families.isEmpty()) {
         throw std::runtime_error("no font at " + path.toStdString() +
                                  " (Debian's package fonts-dejavu-core has the usual one)");
     }
-    family_ = families.front().toStdString();
+    m_family = families.front().toStdString();
 }
 
 const Bitmap& FontGlyphs::glyph(char16_t character, Font font)
 {
-    const auto [entry, isNew] = drawn_.try_emplace({character, font});
+    const auto [entry, isNew] = m_drawn.try_emplace({character, font});
     Bitmap& dots = entry->second;
     if (!isNew) {
         return dots;
     }
     const Cell cell = cellOf(font);
     dots = Bitmap(cell.widthDots, cell.heightDots);
-    const QFont shape = qtFont(family_, font);
+    const QFont shape = qtFont(m_family, font);
     if (!QFontMetrics(shape).inFont(QChar(character))) {
         return dots;
     }

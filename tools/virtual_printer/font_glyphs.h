@@ -1,8 +1,5 @@
-/** \file font_glyphs.h
- *  The printer's fonts, made from a monospaced outline font.
- */
-#ifndef Q7_VIRTUAL_PRINTER_FONT_GLYPHS_H
-#define Q7_VIRTUAL_PRINTER_FONT_GLYPHS_H
+// The printer's fonts, made from a monospaced outline font.
+#pragma once
 
 #include "glyphs.h"
 
@@ -26,7 +23,7 @@ public:
     OffscreenApplication& operator=(const OffscreenApplication&) = delete;
 
 private:
-    std::unique_ptr<QGuiApplication> application_;
+    std::unique_ptr<QGuiApplication> m_application;
 };
 
 class FontGlyphs : public Glyphs
@@ -39,10 +36,8 @@ public:
     const Bitmap& glyph(char16_t character, Font font) override;
 
 private:
-    std::string family_;
-    std::map<std::pair<char16_t, Font>, Bitmap> drawn_;
+    std::string m_family;
+    std::map<std::pair<char16_t, Font>, Bitmap> m_drawn;
 };
 
 } // namespace virtual_printer
-
-#endif

@@ -1,8 +1,5 @@
-/** \file glyphs.h
- *  The printer's two fonts.
- */
-#ifndef Q7_VIRTUAL_PRINTER_GLYPHS_H
-#define Q7_VIRTUAL_PRINTER_GLYPHS_H
+// The printer's two fonts.
+#pragma once
 
 #include "bitmap.h"
 
@@ -34,5 +31,3 @@ public:
 };
 
 } // namespace virtual_printer
-
-#endif

@@ -1,8 +1,5 @@
-/** \file graphic_file.h
- *  Images for the printer's non-volatile memory.
- */
-#ifndef Q7_VIRTUAL_PRINTER_GRAPHIC_FILE_H
-#define Q7_VIRTUAL_PRINTER_GRAPHIC_FILE_H
+// Images for the printer's non-volatile memory.
+#pragma once
 
 #include "bitmap.h"
 
@@ -16,5 +13,3 @@ namespace virtual_printer
 Bitmap readGraphic(const std::string& path);
 
 } // namespace virtual_printer
-
-#endif

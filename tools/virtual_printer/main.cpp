@@ -136,7 +136,7 @@ int main(int argc, char** argv)
     try {
         const Options options = parseOptions(std::vector<std::string>(argv + 1, argv + argc));
         if (options.help) {
-            std::cout << kUsage;
+            std::cout << usage;
         } else {
             run(options);
         }

@@ -8,7 +8,7 @@
 namespace virtual_printer
 {
 
-const char* const kUsage = R"(Usage: q7_virtual_printer [options]
+const char* const usage = R"(Usage: q7_virtual_printer [options]
 Plays a receipt printer: answers queries, and draws and writes down what it is sent.
 
 Links
@@ -50,7 +50,7 @@ files, "job J ended" for each connection.
 namespace
 {
 
-constexpr int kMany = 2'000'000'000;
+constexpr int many = 2'000'000'000;
 
 int numberOf(const std::string& option, const std::string& text, int highest)
 {
@@ -81,7 +81,7 @@ Option text(std::string& target)
     return {true, [&target](const auto&, const std::string& value) { target = value; }};
 }
 
-template <typename Number> Option number(Number& target, int highest = kMany)
+template <typename Number> Option number(Number& target, int highest = many)
 {
     return {true, [&target, highest](const std::string& name, const std::string& value) {
                 target = static_cast<Number>(numberOf(name, value, highest));
@@ -92,7 +92,7 @@ Option exitAfter(Behaviour& behaviour, Behaviour::Exit how)
 {
     return {true, [&behaviour, how](const std::string& name, const std::string& value) {
                 behaviour.exit = how;
-                behaviour.exitAfterBytes = static_cast<std::uint64_t>(numberOf(name, value, kMany));
+                behaviour.exitAfterBytes = static_cast<std::uint64_t>(numberOf(name, value, many));
             }};
 }
 

@@ -1,8 +1,5 @@
-/** \file options.h
- *  The program's command line.
- */
-#ifndef Q7_VIRTUAL_PRINTER_OPTIONS_H
-#define Q7_VIRTUAL_PRINTER_OPTIONS_H
+// The program's command line.
+#pragma once
 
 #include "server.h"
 
@@ -18,17 +15,17 @@ struct Options {
     unsigned powerOnCodeTable = 0;
     std::string portFile;
     int jobs = 0;
-    std::string input;    /**< file of printer bytes to draw instead of serving */
-    std::string inputLog; /**< library log to draw instead of serving */
+    std::string input;    // file of printer bytes to draw instead of serving
+    std::string inputLog; // library log to draw instead of serving
     std::string output = ".";
     std::string name = "job";
     bool pictures = true;
     std::string fontFile;
-    std::map<std::string, std::string> graphicFiles; /**< by key */
+    std::map<std::string, std::string> graphicFiles; // by key
     bool help = false;
 };
 
-extern const char* const kUsage;
+extern const char* const usage;
 
 /** A mistake in the command line. */
 struct UsageError {
@@ -39,5 +36,3 @@ struct UsageError {
 Options parseOptions(const std::vector<std::string>& arguments);
 
 } // namespace virtual_printer
-
-#endif

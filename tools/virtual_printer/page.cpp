@@ -10,38 +10,38 @@ namespace
 {
 
 /** A page has no room for more lines that could be read; the dots are drawn all the same. */
-constexpr std::size_t kMostTexts = 2000;
+constexpr std::size_t mostTexts = 2000;
 
 } // namespace
 
 Page::Page(int widthDots)
-    : dots_(widthDots, kPageHeightDots), area_{0, 0, widthDots, kPageHeightDots}
+    : m_dots(widthDots, pageHeightDots), m_area{0, 0, widthDots, pageHeightDots}
 {
 }
 
 bool Page::setArea(const Area& area)
 {
-    if (area.x >= dots_.width() || area.y >= dots_.height() || area.width == 0 ||
+    if (area.x >= m_dots.width() || area.y >= m_dots.height() || area.width == 0 ||
         area.height == 0) {
         return false;
     }
-    area_ = {area.x, area.y, std::min(area.width, dots_.width() - area.x),
-             std::min(area.height, dots_.height() - area.y)};
-    heightDots_ = std::max(heightDots_, area_.y + area_.height);
+    m_area = {area.x, area.y, std::min(area.width, m_dots.width() - area.x),
+              std::min(area.height, m_dots.height() - area.y)};
+    m_heightDots = std::max(m_heightDots, m_area.y + m_area.height);
     return true;
 }
 
 Page::Point Page::onPage(int along, int down) const
 {
-    switch (direction_) {
+    switch (m_direction) {
     case Direction::UpBottomLeft:
-        return {area_.x + down, area_.y + area_.height - 1 - along};
+        return {m_area.x + down, m_area.y + m_area.height - 1 - along};
     case Direction::LeftBottomRight:
-        return {area_.x + area_.width - 1 - along, area_.y + area_.height - 1 - down};
+        return {m_area.x + m_area.width - 1 - along, m_area.y + m_area.height - 1 - down};
     case Direction::DownTopRight:
-        return {area_.x + area_.width - 1 - down, area_.y + along};
+        return {m_area.x + m_area.width - 1 - down, m_area.y + along};
     default:
-        return {area_.x + along, area_.y + down};
+        return {m_area.x + along, m_area.y + down};
     }
 }
 
@@ -59,38 +59,39 @@ int Page::place(const Bitmap& dots, int along, int down, std::string_view text)
                 ++outside;
             } else {
                 const Point point = onPage(u, v);
-                dots_.set(point.x, point.y);
+                m_dots.set(point.x, point.y);
             }
         }
     }
-    unprinted_ = true;
-    if (!text.empty() && texts_.size() < kMostTexts) {
-        texts_.push_back({onPage(along, down), std::string(text)});
+    m_unprinted = true;
+    if (!text.empty() && m_texts.size() < mostTexts) {
+        m_texts.push_back({onPage(along, down), std::string(text)});
     }
     return outside;
 }
 
 void Page::clearArea()
 {
-    dots_.fill(area_.x, area_.y, area_.width, area_.height, false);
-    unprinted_ = unprinted_ && !dots_.isBlank();
-    texts_.erase(std::remove_if(texts_.begin(), texts_.end(),
-                                [this](const PlacedText& text) {
-                                    const int x = text.at.x - area_.x;
-                                    const int y = text.at.y - area_.y;
-                                    return x >= 0 && y >= 0 && x < area_.width && y < area_.height;
-                                }),
-                 texts_.end());
+    m_dots.fill(m_area.x, m_area.y, m_area.width, m_area.height, false);
+    m_unprinted = m_unprinted && !m_dots.isBlank();
+    m_texts.erase(std::remove_if(m_texts.begin(), m_texts.end(),
+                                 [this](const PlacedText& text) {
+                                     const int x = text.at.x - m_area.x;
+                                     const int y = text.at.y - m_area.y;
+                                     return x >= 0 && y >= 0 && x < m_area.width &&
+                                            y < m_area.height;
+                                 }),
+                  m_texts.end());
 }
 
 Bitmap Page::dots() const
 {
-    return dots_.top(heightDots_ > 0 ? heightDots_ : kPageHeightDots);
+    return m_dots.top(m_heightDots > 0 ? m_heightDots : pageHeightDots);
 }
 
 std::string Page::text() const
 {
-    std::vector<PlacedText> sorted = texts_;
+    std::vector<PlacedText> sorted = m_texts;
     std::stable_sort(sorted.begin(), sorted.end(), [](const PlacedText& a, const PlacedText& b) {
         return a.at.y != b.at.y ? a.at.y < b.at.y : a.at.x < b.at.x;
     });

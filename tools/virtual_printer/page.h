@@ -1,8 +1,5 @@
-/** \file page.h
- *  Page mode: areas of a page, each written in one of four directions, printed all at once.
- */
-#ifndef Q7_VIRTUAL_PRINTER_PAGE_H
-#define Q7_VIRTUAL_PRINTER_PAGE_H
+// Page mode: areas of a page, each written in one of four directions, printed all at once.
+#pragma once
 
 #include "bitmap.h"
 
@@ -14,7 +11,7 @@ namespace virtual_printer
 {
 
 /** How high a page can be; the area is that high until ESC W sets another. */
-constexpr int kPageHeightDots = 1662;
+constexpr int pageHeightDots = 1662;
 
 class Page
 {
@@ -37,13 +34,13 @@ public:
 
     /** Cuts the area to the page; false when nothing of it lies there. */
     bool setArea(const Area& area);
-    void setDirection(Direction direction) { direction_ = direction; }
-    [[nodiscard]] Direction direction() const { return direction_; }
-    [[nodiscard]] int areaLeft() const { return area_.x; }
+    void setDirection(Direction direction) { m_direction = direction; }
+    Direction direction() const { return m_direction; }
+    int areaLeft() const { return m_area.x; }
 
     /** Length of a line in the area, and room for lines, as the direction sees them. */
-    [[nodiscard]] int lineDots() const { return sideways() ? area_.height : area_.width; }
-    [[nodiscard]] int depthDots() const { return sideways() ? area_.width : area_.height; }
+    int lineDots() const { return sideways() ? m_area.height : m_area.width; }
+    int depthDots() const { return sideways() ? m_area.width : m_area.height; }
 
     /** Draws at a position of the area, as the direction sees it. Returns how many black dots fell
      *  outside the area. text: what it reads, UTF-8. */
@@ -51,11 +48,11 @@ public:
     void clearArea();
 
     /** The page down to the foot of the lowest area, and its text from top to bottom. */
-    [[nodiscard]] Bitmap dots() const;
-    [[nodiscard]] std::string text() const;
+    Bitmap dots() const;
+    std::string text() const;
     /** Whether something was drawn since the page was made, cleared or printed. */
-    [[nodiscard]] bool isUnprinted() const { return unprinted_; }
-    void markPrinted() { unprinted_ = false; }
+    bool isUnprinted() const { return m_unprinted; }
+    void markPrinted() { m_unprinted = false; }
 
 private:
     struct Point {
@@ -66,20 +63,18 @@ private:
         Point at;
         std::string text;
     };
-    [[nodiscard]] bool sideways() const
+    bool sideways() const
     {
-        return direction_ == Direction::UpBottomLeft || direction_ == Direction::DownTopRight;
+        return m_direction == Direction::UpBottomLeft || m_direction == Direction::DownTopRight;
     }
-    [[nodiscard]] Point onPage(int along, int down) const;
+    Point onPage(int along, int down) const;
 
-    Bitmap dots_;
-    Area area_;
-    Direction direction_ = Direction::RightTopLeft;
-    int heightDots_ = 0; /**< foot of the lowest area; 0 while none was set */
-    bool unprinted_ = false;
-    std::vector<PlacedText> texts_;
+    Bitmap m_dots;
+    Area m_area;
+    Direction m_direction = Direction::RightTopLeft;
+    int m_heightDots = 0; // foot of the lowest area; 0 while none was set
+    bool m_unprinted = false;
+    std::vector<PlacedText> m_texts;
 };
 
 } // namespace virtual_printer
-
-#endif

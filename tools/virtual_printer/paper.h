@@ -1,8 +1,5 @@
-/** \file paper.h
- *  What the printing mechanism does to the paper.
- */
-#ifndef Q7_VIRTUAL_PRINTER_PAPER_H
-#define Q7_VIRTUAL_PRINTER_PAPER_H
+// What the printing mechanism does to the paper.
+#pragma once
 
 #include "bitmap.h"
 
@@ -30,5 +27,3 @@ public:
 };
 
 } // namespace virtual_printer
-
-#endif

@@ -16,78 +16,78 @@ std::ofstream openForWriting(const std::string& path)
 }
 
 ReceiptFiles::ReceiptFiles(std::string stem, int widthDots, Glyphs* pictureGlyphs, Written written)
-    : stem_(std::move(stem)),
-      widthDots_(widthDots),
-      glyphs_(pictureGlyphs),
-      written_(std::move(written))
+    : m_stem(std::move(stem)),
+      m_widthDots(widthDots),
+      m_glyphs(pictureGlyphs),
+      m_written(std::move(written))
 {
 }
 
 void ReceiptFiles::begin()
 {
-    if (begun_) {
+    if (m_begun) {
         return;
     }
-    begun_ = true;
-    const std::string stem = stem_ + "-" + std::to_string(++number_);
-    textPath_ = stem + ".txt";
-    text_ = openForWriting(textPath_);
-    if (glyphs_ != nullptr) {
-        picture_.emplace(stem, widthDots_, *glyphs_);
+    m_begun = true;
+    const std::string stem = m_stem + "-" + std::to_string(++m_number);
+    m_textPath = stem + ".txt";
+    m_text = openForWriting(m_textPath);
+    if (m_glyphs != nullptr) {
+        m_picture.emplace(stem, m_widthDots, *m_glyphs);
     }
 }
 
 void ReceiptFiles::print(const Bitmap& dots, int advanceDots, std::string_view text)
 {
     begin();
-    text_ << text << '\n';
-    if (picture_) {
-        picture_->print(dots, advanceDots);
+    m_text << text << '\n';
+    if (m_picture) {
+        m_picture->print(dots, advanceDots);
     }
 }
 
 void ReceiptFiles::feed(int dots)
 {
     begin();
-    if (picture_) {
-        picture_->feed(dots);
+    if (m_picture) {
+        m_picture->feed(dots);
     }
 }
 
 void ReceiptFiles::note(std::string_view text)
 {
     begin();
-    text_ << "[" << text << "]\n";
-    if (picture_) {
-        picture_->note(text);
+    m_text << "[" << text << "]\n";
+    if (m_picture) {
+        m_picture->note(text);
     }
 }
 
 void ReceiptFiles::cut()
 {
-    if (begun_) { // two cuts in a row leave no receipt between them
-        text_ << "- - - - - - - - - - cut - - - - - - - - - -\n";
+    if (m_begun) { // two cuts in a row leave no receipt between them
+        m_text << "- - - - - - - - - - cut - - - - - - - - - -\n";
         endReceipt(Picture::End::Cut);
     }
 }
 
 void ReceiptFiles::end()
 {
-    if (begun_) {
+    if (m_begun) {
         endReceipt(Picture::End::Connection);
     }
 }
 
 void ReceiptFiles::endReceipt(Picture::End how)
 {
-    begun_ = false;
-    text_.close();
-    written_(textPath_);
-    if (picture_) {
-        for (const std::string& path : picture_->end(how)) {
-            written_(path);
+    m_begun = false;
+    m_text.close();
+    m_written(m_textPath);
+    if (m_picture) {
+        for (const std::string& path : m_picture->end(how)) {
+            m_written(path);
         }
-        picture_.reset();
+        m_picture.reset();
     }
 }
 

@@ -1,8 +1,5 @@
-/** \file receipt_files.h
- *  The receipts of one connection as files: a picture and a text each.
- */
-#ifndef Q7_VIRTUAL_PRINTER_RECEIPT_FILES_H
-#define Q7_VIRTUAL_PRINTER_RECEIPT_FILES_H
+// The receipts of one connection as files: a picture and a text each.
+#pragma once
 
 #include "paper.h"
 #include "picture.h"
@@ -36,20 +33,18 @@ private:
     void begin();
     void endReceipt(Picture::End how);
 
-    std::string stem_;
-    int widthDots_;
-    Glyphs* glyphs_;
-    Written written_;
-    int number_ = 0;
-    bool begun_ = false;
-    std::string textPath_;
-    std::ofstream text_;
-    std::optional<Picture> picture_;
+    std::string m_stem;
+    int m_widthDots;
+    Glyphs* m_glyphs;
+    Written m_written;
+    int m_number = 0;
+    bool m_begun = false;
+    std::string m_textPath;
+    std::ofstream m_text;
+    std::optional<Picture> m_picture;
 };
 
 /** Opens a file for writing. Throws std::system_error. */
 std::ofstream openForWriting(const std::string& path);
 
 } // namespace virtual_printer
-
-#endif

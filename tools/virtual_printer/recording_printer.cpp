@@ -6,7 +6,7 @@ namespace virtual_printer
 class RecordingPrinter::Recorder : public Job
 {
 public:
-    Recorder(RecordingPrinter& printer, std::size_t index) : printer_(printer), index_(index) {}
+    Recorder(RecordingPrinter& printer, std::size_t index) : m_printer(printer), m_index(index) {}
 
     void received(std::string_view bytes) override
     {
@@ -29,44 +29,44 @@ public:
 private:
     template <typename Change> void change(Change apply)
     {
-        const std::lock_guard<std::mutex> lock(printer_.mutex_);
-        apply(printer_.records_[index_]);
-        printer_.changed_.notify_all();
+        const std::lock_guard<std::mutex> lock(m_printer.m_mutex);
+        apply(m_printer.m_records[m_index]);
+        m_printer.m_changed.notify_all();
     }
 
-    RecordingPrinter& printer_;
-    std::size_t index_;
+    RecordingPrinter& m_printer;
+    std::size_t m_index;
 };
 
 RecordingPrinter::RecordingPrinter(const ServerSettings& settings)
-    : server_(settings,
-              [this](int number) {
-                  const std::lock_guard<std::mutex> lock(mutex_);
-                  records_.emplace_back();
-                  changed_.notify_all();
-                  return std::make_unique<Recorder>(*this, static_cast<std::size_t>(number - 1));
-              }),
-      thread_([this] { server_.run(); })
+    : m_server(settings,
+               [this](int number) {
+                   const std::lock_guard<std::mutex> lock(m_mutex);
+                   m_records.emplace_back();
+                   m_changed.notify_all();
+                   return std::make_unique<Recorder>(*this, static_cast<std::size_t>(number - 1));
+               }),
+      m_thread([this] { m_server.run(); })
 {
 }
 
 RecordingPrinter::~RecordingPrinter()
 {
-    server_.stop();
-    thread_.join();
+    m_server.stop();
+    m_thread.join();
 }
 
 RecordingPrinter::Records RecordingPrinter::records() const
 {
-    const std::lock_guard<std::mutex> lock(mutex_);
-    return records_;
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_records;
 }
 
 bool RecordingPrinter::waitUntil(const std::function<bool(const Records&)>& condition,
                                  std::chrono::milliseconds timeout) const
 {
-    std::unique_lock<std::mutex> lock(mutex_);
-    return changed_.wait_for(lock, timeout, [&] { return condition(records_); });
+    std::unique_lock<std::mutex> lock(m_mutex);
+    return m_changed.wait_for(lock, timeout, [&] { return condition(m_records); });
 }
 
 std::string RecordingPrinter::bytesOfJob(std::size_t index) const

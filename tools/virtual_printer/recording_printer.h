@@ -1,8 +1,5 @@
-/** \file recording_printer.h
- *  A virtual printer for tests: served on a thread of its own, everything kept in memory.
- */
-#ifndef Q7_VIRTUAL_PRINTER_RECORDING_PRINTER_H
-#define Q7_VIRTUAL_PRINTER_RECORDING_PRINTER_H
+// A virtual printer for tests: served on a thread of its own, everything kept in memory.
+#pragma once
 
 #include "server.h"
 
@@ -20,7 +17,7 @@ public:
     struct Record {
         std::string bytes;
         std::vector<Command> commands;
-        std::size_t reads = 0; /**< pieces in which the bytes were taken from the link */
+        std::size_t reads = 0; // pieces in which the bytes were taken from the link
         std::chrono::steady_clock::time_point firstByte;
         std::chrono::steady_clock::time_point lastByte;
         bool ended = false;
@@ -33,31 +30,29 @@ public:
     RecordingPrinter(const RecordingPrinter&) = delete;
     RecordingPrinter& operator=(const RecordingPrinter&) = delete;
 
-    [[nodiscard]] std::uint16_t port() const { return server_.port(); }
-    [[nodiscard]] const std::string& serialPath() const { return server_.serialPath(); }
-    void setState(const State& state) { server_.setState(state); }
-    void setBehaviour(const Behaviour& behaviour) { server_.setBehaviour(behaviour); }
+    std::uint16_t port() const { return m_server.port(); }
+    const std::string& serialPath() const { return m_server.serialPath(); }
+    void setState(const State& state) { m_server.setState(state); }
+    void setBehaviour(const Behaviour& behaviour) { m_server.setBehaviour(behaviour); }
 
     /** Everything so far, in the order in which the connections began. */
-    [[nodiscard]] Records records() const;
+    Records records() const;
 
     /** Waits until the records satisfy the condition; false when they do not within the time. */
     bool waitUntil(const std::function<bool(const Records&)>& condition,
                    std::chrono::milliseconds timeout = std::chrono::seconds(10)) const;
     /** Waits until that connection (counted from 0) has ended, and gives its bytes; what has come
      *  by then when it does not end in time. */
-    [[nodiscard]] std::string bytesOfJob(std::size_t index) const;
+    std::string bytesOfJob(std::size_t index) const;
 
 private:
     class Recorder;
 
-    mutable std::mutex mutex_;
-    mutable std::condition_variable changed_;
-    Records records_;
-    Server server_;
-    std::thread thread_;
+    mutable std::mutex m_mutex;
+    mutable std::condition_variable m_changed;
+    Records m_records;
+    Server m_server;
+    std::thread m_thread;
 };
 
 } // namespace virtual_printer
-
-#endif

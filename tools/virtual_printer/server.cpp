@@ -45,7 +45,7 @@ void setNonBlocking(int fd)
 }
 
 /** While nobody has the serial device open, poll(2) reports a hang-up at once and for ever. */
-constexpr milliseconds kSerialLookPeriod{10};
+constexpr milliseconds serialLookPeriod{10};
 
 } // namespace
 
@@ -70,15 +70,15 @@ struct Server::Connection {
 };
 
 Server::Server(const ServerSettings& settings, JobMaker maker)
-    : maker_(std::move(maker)),
-      model_(settings.model),
-      state_(settings.state),
-      behaviour_(settings.behaviour)
+    : m_maker(std::move(maker)),
+      m_model(settings.model),
+      m_state(settings.state),
+      m_behaviour(settings.behaviour)
 {
     int ends[2];
     checked(pipe2(ends, O_CLOEXEC | O_NONBLOCK), "pipe");
-    wakeRead_ = ends[0];
-    wakeWrite_ = ends[1];
+    m_wakeRead = ends[0];
+    m_wakeWrite = ends[1];
     if (settings.tcp) {
         listenOnTcp(settings);
     }
@@ -89,29 +89,29 @@ Server::Server(const ServerSettings& settings, JobMaker maker)
 
 Server::~Server()
 {
-    for (Connection& connection : connections_) {
+    for (Connection& connection : m_connections) {
         connection.gone = true;
         end(connection);
     }
-    for (const int fd : {listener_, wakeRead_, wakeWrite_}) {
+    for (const int fd : {m_listener, m_wakeRead, m_wakeWrite}) {
         if (fd >= 0) {
             close(fd);
         }
     }
-    if (!serialLink_.empty()) {
-        unlink(serialLink_.c_str());
+    if (!m_serialLink.empty()) {
+        unlink(m_serialLink.c_str());
     }
 }
 
 void Server::listenOnTcp(const ServerSettings& settings)
 {
-    listener_ = checked(socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0), "socket");
+    m_listener = checked(socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0), "socket");
     const int on = 1;
-    setsockopt(listener_, SOL_SOCKET, SO_REUSEADDR, &on, sizeof on);
+    setsockopt(m_listener, SOL_SOCKET, SO_REUSEADDR, &on, sizeof on);
     if (settings.behaviour.readBytesPerSecond > 0) {
         // The sender has to feel the slow reader, so the system may hold back little for it.
         const int bufferBytes = 4096;
-        setsockopt(listener_, SOL_SOCKET, SO_RCVBUF, &bufferBytes, sizeof bufferBytes);
+        setsockopt(m_listener, SOL_SOCKET, SO_RCVBUF, &bufferBytes, sizeof bufferBytes);
     }
     sockaddr_in address{};
     address.sin_family = AF_INET;
@@ -122,24 +122,24 @@ void Server::listenOnTcp(const ServerSettings& settings)
     }
     socklen_t size = sizeof address;
     auto* generic = reinterpret_cast<sockaddr*>(&address);
-    checked(bind(listener_, generic, size), "bind");
-    checked(listen(listener_, 16), "listen");
-    checked(getsockname(listener_, generic, &size), "getsockname");
-    port_ = ntohs(address.sin_port);
-    setNonBlocking(listener_);
+    checked(bind(m_listener, generic, size), "bind");
+    checked(listen(m_listener, 16), "listen");
+    checked(getsockname(m_listener, generic, &size), "getsockname");
+    m_port = ntohs(address.sin_port);
+    setNonBlocking(m_listener);
 }
 
 void Server::openSerial(const std::string& link)
 {
     const int master = checked(posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC), "posix_openpt");
-    connections_.emplace_back(master, true);
+    m_connections.emplace_back(master, true);
     checked(grantpt(master), "grantpt");
     checked(unlockpt(master), "unlockpt");
     char path[128];
     if (ptsname_r(master, path, sizeof path) != 0) {
         fail("ptsname");
     }
-    serialPath_ = path;
+    m_serialPath = path;
     // Raw, as a serial port is: the line discipline must neither echo nor translate. The settings
     // stay with the pair after the device is closed here; kept open, it would hide the hang-up
     // that ends a job.
@@ -153,50 +153,50 @@ void Server::openSerial(const std::string& link)
     if (!link.empty()) {
         unlink(link.c_str());
         checked(symlink(path, link.c_str()), link.c_str());
-        serialLink_ = link;
+        m_serialLink = link;
     }
 }
 
 void Server::stop()
 {
     const char byte = 0;
-    if (write(wakeWrite_, &byte, 1) < 0) {
+    if (write(m_wakeWrite, &byte, 1) < 0) {
         return; // the pipe is full: run() is being woken already
     }
 }
 
 void Server::setState(const State& state)
 {
-    const std::lock_guard<std::mutex> lock(mutex_);
-    state_ = state;
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_state = state;
 }
 
 void Server::setBehaviour(const Behaviour& behaviour)
 {
-    const std::lock_guard<std::mutex> lock(mutex_);
-    behaviour_ = behaviour;
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_behaviour = behaviour;
 }
 
 Behaviour Server::behaviour() const
 {
-    const std::lock_guard<std::mutex> lock(mutex_);
-    return behaviour_;
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_behaviour;
 }
 
 State Server::state() const
 {
-    const std::lock_guard<std::mutex> lock(mutex_);
-    return state_;
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_state;
 }
 
 void Server::run(int jobs)
 {
     std::vector<pollfd> watched;
-    while (jobs == 0 || jobsEnded_ < jobs) {
+    while (jobs == 0 || m_jobsEnded < jobs) {
         Clock::time_point wake = Clock::time_point::max();
         const Clock::time_point now = Clock::now();
-        watched.assign({{wakeRead_, POLLIN, 0}, {listener_, POLLIN, 0}});
-        for (const Connection& connection : connections_) {
+        watched.assign({{m_wakeRead, POLLIN, 0}, {m_listener, POLLIN, 0}});
+        for (const Connection& connection : m_connections) {
             // The serial line with nobody on it is looked at by the clock.
             const bool readable = connection.nextRead <= now;
             watched.push_back({readable ? connection.fd : -1, POLLIN, 0});
@@ -215,19 +215,19 @@ void Server::run(int jobs)
         }
         if (watched[0].revents != 0) {
             char drain[16];
-            while (read(wakeRead_, drain, sizeof drain) > 0) {
+            while (read(m_wakeRead, drain, sizeof drain) > 0) {
             }
             return;
         }
         auto entry = watched.begin() + 2;
-        for (auto connection = connections_.begin(); connection != connections_.end(); ++entry) {
+        for (auto connection = m_connections.begin(); connection != m_connections.end(); ++entry) {
             if (entry->revents != 0 && readFrom(*connection) == Reading::Ended) {
                 end(*connection);
             }
             sendDue(*connection);
             sendUnasked(*connection);
             if (connection->gone) {
-                connection = connections_.erase(connection);
+                connection = m_connections.erase(connection);
             } else {
                 ++connection;
             }
@@ -240,25 +240,25 @@ void Server::run(int jobs)
 
 void Server::acceptConnection()
 {
-    const int fd = accept4(listener_, nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK);
+    const int fd = accept4(m_listener, nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK);
     if (fd < 0) {
         return; // it went away before it was accepted
     }
     const int on = 1;
     setsockopt(fd, IPPROTO_TCP, TCP_NODELAY, &on, sizeof on);
-    connections_.emplace_back(fd, false);
-    begin(connections_.back());
+    m_connections.emplace_back(fd, false);
+    begin(m_connections.back());
 }
 
 void Server::begin(Connection& connection)
 {
-    connection.job = maker_(++jobsBegun_);
+    connection.job = m_maker(++m_jobsBegun);
     connection.parser = std::make_unique<CommandParser>(
         [this, &connection](const Command& command) {
             connection.job->command(command);
             answer(connection, command);
         },
-        model_.tildeQueries ? CommandParser::TildeQueries::Yes : CommandParser::TildeQueries::No);
+        m_model.tildeQueries ? CommandParser::TildeQueries::Yes : CommandParser::TildeQueries::No);
     connection.received = 0;
     connection.replies = 0;
     const int periodMs = behaviour().unaskedStatusMs;
@@ -278,7 +278,7 @@ void Server::end(Connection& connection)
         connection.job->ended();
         connection.job.reset();
         connection.parser.reset();
-        ++jobsEnded_;
+        ++m_jobsEnded;
     }
     connection.outgoing.clear();
     connection.nextUnasked = Clock::time_point::max();
@@ -307,7 +307,7 @@ Server::Reading Server::readFrom(Connection& connection)
     }
     if (count <= 0 && wanted > 0) {
         if (connection.serial) {
-            connection.nextRead = Clock::now() + kSerialLookPeriod;
+            connection.nextRead = Clock::now() + serialLookPeriod;
         }
         return Reading::Ended;
     }
@@ -338,7 +338,7 @@ Server::Reading Server::readFrom(Connection& connection)
 
 void Server::answer(Connection& connection, const Command& command)
 {
-    const std::string reply = replyTo(command, model_, state());
+    const std::string reply = replyTo(command, m_model, state());
     const Behaviour manner = behaviour();
     if (reply.empty()) {
         return;

@@ -1,8 +1,5 @@
-/** \file server.h
- *  The printer's links: a TCP port, a pseudo-terminal as serial port, and how they misbehave.
- */
-#ifndef Q7_VIRTUAL_PRINTER_SERVER_H
-#define Q7_VIRTUAL_PRINTER_SERVER_H
+// The printer's links: a TCP port, a pseudo-terminal as serial port, and how they misbehave.
+#pragma once
 
 #include "device.h"
 
@@ -18,16 +15,16 @@ namespace virtual_printer
 
 /** How a printer misbehaves; the defaults are good behaviour. */
 struct Behaviour {
-    bool silent = false;        /**< answers no query */
-    int lateMs = 0;             /**< answers that long after the query */
-    int byteGapMs = 0;          /**< time between two bytes of an answer */
-    int promptReplies = 0;      /**< so many answers per connection come as they should */
-    int unaskedStatusMs = 0;    /**< period of unasked status bytes; 0 for none */
-    int readBytesPerSecond = 0; /**< 0 for as fast as they come */
+    bool silent = false;        // answers no query
+    int lateMs = 0;             // answers that long after the query
+    int byteGapMs = 0;          // time between two bytes of an answer
+    int promptReplies = 0;      // so many answers per connection come as they should
+    int unaskedStatusMs = 0;    // period of unasked status bytes; 0 for none
+    int readBytesPerSecond = 0; // 0 for as fast as they come
 
     enum class Exit { Stay, Reset, Close };
-    Exit exit = Exit::Stay;           /**< how the printer vanishes */
-    std::uint64_t exitAfterBytes = 0; /**< received on a connection */
+    Exit exit = Exit::Stay;           // how the printer vanishes
+    std::uint64_t exitAfterBytes = 0; // received on a connection
 };
 
 /** What becomes of the bytes of one connection. Called on the thread that runs the server. */
@@ -50,10 +47,10 @@ struct ServerSettings {
     State state = {};
     Behaviour behaviour = {};
     bool tcp = true;
-    std::string address = "127.0.0.1"; /**< IPv4 address to listen on */
-    std::uint16_t port = 0;            /**< 0: any */
-    bool serial = false;               /**< serve a pseudo-terminal too */
-    std::string serialLink = {};       /**< symbolic link to the pseudo-terminal; empty for none */
+    std::string address = "127.0.0.1"; // IPv4 address to listen on
+    std::uint16_t port = 0;            // 0: any
+    bool serial = false;               // serve a pseudo-terminal too
+    std::string serialLink = {};       // symbolic link to the pseudo-terminal; empty for none
 };
 
 /** Serves any number of connections at once, each a job of its own. */
@@ -69,9 +66,9 @@ public:
     Server(const Server&) = delete;
     Server& operator=(const Server&) = delete;
 
-    [[nodiscard]] std::uint16_t port() const { return port_; }
+    std::uint16_t port() const { return m_port; }
     /** Path of the serial device; empty without one. */
-    [[nodiscard]] const std::string& serialPath() const { return serialPath_; }
+    const std::string& serialPath() const { return m_serialPath; }
 
     /** Serves until stop(), or until so many jobs have ended (0: no such limit). */
     void run(int jobs = 0);
@@ -88,7 +85,6 @@ private:
 
     void listenOnTcp(const ServerSettings& settings);
     void openSerial(const std::string& link);
-    void armSerial();
     void acceptConnection();
     Reading readFrom(Connection& connection);
     void answer(Connection& connection, const Command& command);
@@ -96,25 +92,23 @@ private:
     void sendUnasked(Connection& connection);
     void begin(Connection& connection);
     void end(Connection& connection);
-    [[nodiscard]] Behaviour behaviour() const;
-    [[nodiscard]] State state() const;
+    Behaviour behaviour() const;
+    State state() const;
 
-    JobMaker maker_;
-    Model model_;
-    mutable std::mutex mutex_;
-    State state_;
-    Behaviour behaviour_;
-    std::uint16_t port_ = 0;
-    std::string serialPath_;
-    std::string serialLink_;
-    int listener_ = -1;
-    int wakeRead_ = -1;
-    int wakeWrite_ = -1;
-    std::list<Connection> connections_;
-    int jobsBegun_ = 0;
-    int jobsEnded_ = 0;
+    JobMaker m_maker;
+    Model m_model;
+    mutable std::mutex m_mutex;
+    State m_state;
+    Behaviour m_behaviour;
+    std::uint16_t m_port = 0;
+    std::string m_serialPath;
+    std::string m_serialLink;
+    int m_listener = -1;
+    int m_wakeRead = -1;
+    int m_wakeWrite = -1;
+    std::list<Connection> m_connections;
+    int m_jobsBegun = 0;
+    int m_jobsEnded = 0;
 };
 
 } // namespace virtual_printer
-
-#endif

@@ -19,26 +19,25 @@ using ZintSymbol = std::unique_ptr<zint_symbol, ZintDelete>;
 struct Barcode {
     std::string_view name;
     int symbology;
-    bool twoLevels; /**< bars are narrow or wide, in the printer's own ratio */
+    bool twoLevels; // bars are narrow or wide, in the printer's own ratio
 };
 
-constexpr Barcode kBarcodes[] = {
+constexpr Barcode barcodes[] = {
     {"UPC-A", BARCODE_UPCA, false},     {"UPC-E", BARCODE_UPCE, false},
     {"EAN-13", BARCODE_EANX, false},    {"EAN-8", BARCODE_EANX, false},
     {"CODE39", BARCODE_CODE39, true},   {"ITF", BARCODE_C25INTER, true},
     {"CODABAR", BARCODE_CODABAR, true}, {"CODE93", BARCODE_CODE93, false},
     {"CODE128", BARCODE_CODE128, false}};
-constexpr unsigned kUpcA = 0;
-constexpr unsigned kUpcE = 1;
-constexpr unsigned kEan8 = 3;
-constexpr unsigned kCode39 = 4;
-constexpr unsigned kCode128 = 8;
+constexpr unsigned upcE = 1;
+constexpr unsigned ean8 = 3;
+constexpr unsigned code39 = 4;
+constexpr unsigned code128 = 8;
 
-/** Index into kBarcodes, from the short (0) or the long (65) form of the command. */
+/** Index into barcodes, from the short (0) or the long (65) form of the command. */
 std::optional<unsigned> indexOf(unsigned symbology)
 {
     const unsigned index = symbology >= 65 ? symbology - 65 : symbology;
-    const bool known = symbology >= 65 ? index <= kCode128 : index <= 6;
+    const bool known = symbology >= 65 ? index <= code128 : index <= 6;
     return known ? std::optional<unsigned>(index) : std::nullopt;
 }
 
@@ -81,10 +80,10 @@ ZintSymbol encode(int symbology, std::string_view data, int level, std::string& 
 }
 
 /** The eight digits of UPC-E hold a UPC-A number whose zeros stand where this takes them out. */
-std::optional<std::string> zeroSuppressed(std::string_view upcA)
+std::optional<std::string> zeroSuppressed(std::string_view number)
 {
-    const std::string_view maker = upcA.substr(1, 5);
-    const std::string_view item = upcA.substr(6, 5);
+    const std::string_view maker = number.substr(1, 5);
+    const std::string_view item = number.substr(6, 5);
     const std::string m(maker);
     if (maker[2] <= '2' && maker.substr(3) == "00" && item.substr(0, 2) == "00") {
         return m.substr(0, 2) + std::string(item.substr(2)) + maker[2];
@@ -195,7 +194,7 @@ Symbol barsOf(const zint_symbol& symbol, bool twoLevels, int moduleDots, int hei
 std::string_view barcodeName(unsigned symbology)
 {
     const auto index = indexOf(symbology);
-    return index ? kBarcodes[*index].name : std::string_view();
+    return index ? barcodes[*index].name : std::string_view();
 }
 
 Symbol encodeBarcode(unsigned symbology, std::string_view data, bool picksCode128Set,
@@ -205,11 +204,11 @@ Symbol encodeBarcode(unsigned symbology, std::string_view data, bool picksCode12
     if (!index) {
         return problem("is of a kind that is not drawn");
     }
-    const Barcode& barcode = kBarcodes[*index];
+    const Barcode& barcode = barcodes[*index];
     int zintSymbology = barcode.symbology;
     std::string characters(data);
     std::string checkDigit;
-    if (*index <= kEan8) {
+    if (*index <= ean8) {
         constexpr std::size_t digits[] = {11, 11, 12, 7};
         const std::size_t count = digits[*index];
         if (!isDigits(data) || data.size() < count || data.size() > count + 1) {
@@ -217,18 +216,18 @@ Symbol encodeBarcode(unsigned symbology, std::string_view data, bool picksCode12
         }
         checkDigit = data.substr(count);
         characters.resize(count);
-        if (*index == kUpcE) {
+        if (*index == upcE) {
             const auto suppressed = zeroSuppressed(characters);
             if (characters[0] != '0' || !suppressed) {
                 return problem("cannot be shortened to UPC-E");
             }
             characters = "0" + *suppressed;
         }
-    } else if (*index == kCode39) {
+    } else if (*index == code39) {
         // The start and stop character may come with the data.
         characters.erase(0, characters.find_first_not_of('*'));
         characters.erase(characters.find_last_not_of('*') + 1);
-    } else if (*index == kCode128 && !picksCode128Set) {
+    } else if (*index == code128 && !picksCode128Set) {
         Code128Data read = readCode128(data);
         if (!read.problem.empty()) {
             return problem(read.problem);

@@ -1,8 +1,5 @@
-/** \file symbols.h
- *  Barcodes and QR codes as dots.
- */
-#ifndef Q7_VIRTUAL_PRINTER_SYMBOLS_H
-#define Q7_VIRTUAL_PRINTER_SYMBOLS_H
+// Barcodes and QR codes as dots.
+#pragma once
 
 #include "bitmap.h"
 
@@ -15,8 +12,8 @@ namespace virtual_printer
 /** An encoded symbol, or why there is none. */
 struct Symbol {
     Bitmap dots;
-    std::string text;    /**< human-readable interpretation of a barcode, ASCII */
-    std::string problem; /**< empty when the symbol could be made */
+    std::string text;    // human-readable interpretation of a barcode, ASCII
+    std::string problem; // empty when the symbol could be made
 };
 
 /** A barcode without its text.
@@ -37,5 +34,3 @@ enum class QrLevel { L = 1, M, Q, H };
 Symbol encodeQr(std::string_view data, QrLevel level, int moduleDots, int longest);
 
 } // namespace virtual_printer
-
-#endif

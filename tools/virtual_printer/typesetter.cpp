@@ -9,10 +9,10 @@ namespace
 
 /** A line is printed at the latest when it has so many characters: moving back and forth could
  *  otherwise pile up any number. */
-constexpr std::size_t kLongestLine = 1024;
+constexpr std::size_t longestLine = 1024;
 
-constexpr char kOutOfRange[] = "argument out of range: ignored";
-constexpr char kOnlyInPageMode[] = "only in page mode: ignored";
+constexpr char outOfRange[] = "argument out of range: ignored";
+constexpr char onlyInPageMode[] = "only in page mode: ignored";
 
 /** Many arguments may be a number or its digit: 0 to 3 or "0" to "3". */
 unsigned numberOrDigit(unsigned argument)
@@ -30,18 +30,18 @@ std::string shortened(std::string_view text)
 
 Typesetter::Typesetter(const Model& model, Glyphs& glyphs, const Graphics& graphics, Paper& paper,
                        Remarks remarks)
-    : model_(model),
-      glyphs_(glyphs),
-      graphics_(graphics),
-      paper_(paper),
-      remarks_(std::move(remarks))
+    : m_model(model),
+      m_glyphs(glyphs),
+      m_graphics(graphics),
+      m_paper(paper),
+      m_remarks(std::move(remarks))
 {
-    settings_.codeTable = model_.powerOnCodeTable;
+    m_settings.codeTable = m_model.powerOnCodeTable;
 }
 
 void Typesetter::command(const Command& command)
 {
-    at_ = command.offset;
+    m_at = command.offset;
     switch (command.op) {
     case Op::Text:
         return text(command);
@@ -92,7 +92,7 @@ void Typesetter::command(const Command& command)
 
 void Typesetter::finish(std::uint64_t offset)
 {
-    at_ = offset;
+    m_at = offset;
     throwAway("the end of the connection");
     leavePage();
 }
@@ -102,7 +102,7 @@ void Typesetter::finish(std::uint64_t offset)
 void Typesetter::setStyle(const Command& command)
 {
     const unsigned argument = command.arg(0);
-    Style& style = settings_.style;
+    Style& style = m_settings.style;
     switch (command.op) {
     case Op::PrintMode: // sets all five at once: what its bits leave out is switched off
         style.font = (argument & 0x01U) != 0 ? Font::B : Font::A;
@@ -113,19 +113,19 @@ void Typesetter::setStyle(const Command& command)
         break;
     case Op::Font:
         if (numberOrDigit(argument) > 1) {
-            return remark(kOutOfRange);
+            return remark(outOfRange);
         }
         style.font = numberOrDigit(argument) == 1 ? Font::B : Font::A;
         break;
     case Op::Underline:
         if (numberOrDigit(argument) > 2) {
-            return remark(kOutOfRange);
+            return remark(outOfRange);
         }
         style.underlineDots = static_cast<int>(numberOrDigit(argument));
         break;
     case Op::CharacterSize:
         if ((argument & 0x88U) != 0) {
-            return remark(kOutOfRange);
+            return remark(outOfRange);
         }
         style.widthFactor = static_cast<int>(argument >> 4U) + 1;
         style.heightFactor = static_cast<int>(argument & 7U) + 1;
@@ -146,37 +146,37 @@ void Typesetter::setLayout(const Command& command)
     const unsigned argument = command.arg(0);
     switch (command.op) {
     case Op::CharacterSpacing:
-        settings_.characterSpacing = static_cast<int>(argument);
+        m_settings.characterSpacing = static_cast<int>(argument);
         break;
     case Op::CodeTable:
         if (!hasCodeTable(argument)) {
             remark("unknown code table: drawn as PC437");
         }
-        settings_.codeTable = argument;
+        m_settings.codeTable = argument;
         break;
     case Op::Alignment:
         if (numberOrDigit(argument) > 2) {
-            return remark(kOutOfRange);
+            return remark(outOfRange);
         }
-        if (!line_.empty() && !page_) {
+        if (!m_line.empty() && !m_page) {
             return remark("in mid-line: ignored");
         }
-        settings_.alignment = numberOrDigit(argument);
+        m_settings.alignment = numberOrDigit(argument);
         break;
     case Op::DefaultLineSpacing:
-        settings_.lineSpacing = Settings().lineSpacing;
+        m_settings.lineSpacing = Settings().lineSpacing;
         break;
     case Op::LineSpacing:
-        settings_.lineSpacing = static_cast<int>(argument);
+        m_settings.lineSpacing = static_cast<int>(argument);
         break;
     case Op::TabStops:
-        settings_.tabColumns = command.data();
+        m_settings.tabColumns = command.data();
         break;
     case Op::LeftMargin:
-        settings_.leftMargin = static_cast<int>(command.arg16(0));
+        m_settings.leftMargin = static_cast<int>(command.arg16(0));
         break;
     default: // PrintWidth
-        settings_.printWidth = static_cast<int>(command.arg16(0));
+        m_settings.printWidth = static_cast<int>(command.arg16(0));
     }
 }
 
@@ -185,32 +185,32 @@ void Typesetter::setSymbol(const Command& command)
     const unsigned argument = command.arg(0);
     const auto keep = [&](int& setting, unsigned value, unsigned lowest, unsigned highest) {
         if (value < lowest || value > highest) {
-            return remark(kOutOfRange);
+            return remark(outOfRange);
         }
         setting = static_cast<int>(value);
     };
     switch (command.op) {
     case Op::BarcodeHeight:
-        return keep(settings_.barcodeHeight, argument, 1, 255);
+        return keep(m_settings.barcodeHeight, argument, 1, 255);
     case Op::BarcodeModuleWidth:
-        return keep(settings_.barcodeModule, argument, 1, 6);
+        return keep(m_settings.barcodeModule, argument, 1, 6);
     case Op::BarcodeTextPosition:
-        return keep(settings_.barcodeTextPosition, numberOrDigit(argument), 0, 3);
+        return keep(m_settings.barcodeTextPosition, numberOrDigit(argument), 0, 3);
     case Op::BarcodeTextFont:
-        settings_.barcodeTextFont = numberOrDigit(argument) == 1 ? Font::B : Font::A;
+        m_settings.barcodeTextFont = numberOrDigit(argument) == 1 ? Font::B : Font::A;
         return;
     case Op::QrModuleSize:
-        return keep(settings_.qrModule, argument, 1, 16);
+        return keep(m_settings.qrModule, argument, 1, 16);
     case Op::QrAltSettings:
-        return keep(settings_.qrAltModule, command.arg(1), 1, 16);
+        return keep(m_settings.qrAltModule, command.arg(1), 1, 16);
     case Op::QrLevel:
         if (numberOrDigit(argument) > 3) {
-            return remark(kOutOfRange);
+            return remark(outOfRange);
         }
-        settings_.qrLevel = static_cast<QrLevel>(numberOrDigit(argument) + 1);
+        m_settings.qrLevel = static_cast<QrLevel>(numberOrDigit(argument) + 1);
         return;
     default: // QrStore
-        settings_.qrData = command.data();
+        m_settings.qrData = command.data();
     }
 }
 
@@ -221,26 +221,26 @@ void Typesetter::setPage(const Command& command)
         return enterPage();
     case Op::PageDirection:
         if (numberOrDigit(command.arg(0)) > 3) {
-            return remark(kOutOfRange);
+            return remark(outOfRange);
         }
-        settings_.pageDirection = static_cast<Page::Direction>(numberOrDigit(command.arg(0)));
+        m_settings.pageDirection = static_cast<Page::Direction>(numberOrDigit(command.arg(0)));
         break;
     case Op::PageArea:
-        settings_.pageArea =
+        m_settings.pageArea =
             Page::Area{static_cast<int>(command.arg16(0)), static_cast<int>(command.arg16(2)),
                        static_cast<int>(command.arg16(4)), static_cast<int>(command.arg16(6))};
         break;
     default:
-        if (!page_) {
-            return remark(kOnlyInPageMode);
+        if (!m_page) {
+            return remark(onlyInPageMode);
         }
         if (command.op == Op::StandardMode) {
             throwAway("standard mode");
             return leavePage();
         }
         if (command.op == Op::CancelPage) {
-            line_.clear();
-            return page_->clearArea();
+            m_line.clear();
+            return m_page->clearArea();
         }
         printPage();
         if (command.op == Op::FormFeed) {
@@ -248,13 +248,13 @@ void Typesetter::setPage(const Command& command)
         }
         return;
     }
-    if (page_) {
+    if (m_page) {
         flushIfBegun();
-        page_->setDirection(settings_.pageDirection);
-        if (command.op == Op::PageArea && !page_->setArea(*settings_.pageArea)) {
+        m_page->setDirection(m_settings.pageDirection);
+        if (command.op == Op::PageArea && !m_page->setArea(*m_settings.pageArea)) {
             return remark("nothing of the area lies on the page: ignored");
         }
-        pen_ = down_ = 0;
+        m_pen = m_down = 0;
     }
 }
 
@@ -262,35 +262,35 @@ void Typesetter::reset()
 {
     throwAway("the reset");
     leavePage();
-    settings_ = Settings();
-    settings_.codeTable = model_.powerOnCodeTable;
+    m_settings = Settings();
+    m_settings.codeTable = m_model.powerOnCodeTable;
 }
 
 // ------------------------------------------------------------------ position
 
 int Typesetter::lineDots() const
 {
-    if (page_) {
-        return page_->lineDots();
+    if (m_page) {
+        return m_page->lineDots();
     }
-    const int room = std::max(model_.widthDots() - settings_.leftMargin, 0);
-    return std::min(room, settings_.printWidth.value_or(room));
+    const int room = std::max(m_model.widthDots() - m_settings.leftMargin, 0);
+    return std::min(room, m_settings.printWidth.value_or(room));
 }
 
 int Typesetter::roomDots() const
 {
-    return page_ ? lineDots() - pen_ : lineDots();
+    return m_page ? lineDots() - m_pen : lineDots();
 }
 
 int Typesetter::aligned(int widthDots) const
 {
-    if (page_) {
+    if (m_page) {
         return 0;
     }
     const int space = std::max(lineDots() - widthDots, 0);
-    return settings_.leftMargin + (settings_.alignment == 2   ? space
-                                   : settings_.alignment == 1 ? space / 2
-                                                              : 0);
+    return m_settings.leftMargin + (m_settings.alignment == 2   ? space
+                                    : m_settings.alignment == 1 ? space / 2
+                                                                : 0);
 }
 
 void Typesetter::move(const Command& command)
@@ -300,7 +300,7 @@ void Typesetter::move(const Command& command)
             return remark("outside the line or the area: ignored");
         }
         position = value;
-        fullLinePrinted_ = false;
+        m_fullLinePrinted = false;
     };
     const int distance = static_cast<std::int16_t>(command.arg16(0));
     const auto position = static_cast<int>(command.arg16(0));
@@ -308,33 +308,33 @@ void Typesetter::move(const Command& command)
     case Op::Tab:
         return tab();
     case Op::AbsolutePosition:
-        return to(pen_, position, lineDots());
+        return to(m_pen, position, lineDots());
     case Op::RelativePosition:
-        return to(pen_, pen_ + distance, lineDots());
+        return to(m_pen, m_pen + distance, lineDots());
     default:
-        if (!page_) {
-            return remark(kOnlyInPageMode);
+        if (!m_page) {
+            return remark(onlyInPageMode);
         }
         flushIfBegun();
-        to(down_, command.op == Op::PageVerticalMove ? down_ + distance : position,
-           page_->depthDots());
+        to(m_down, command.op == Op::PageVerticalMove ? m_down + distance : position,
+           m_page->depthDots());
     }
 }
 
 void Typesetter::tab()
 {
-    const int columnDots = settings_.style.widthDots() + settings_.characterSpacing;
+    const int columnDots = m_settings.style.widthDots() + m_settings.characterSpacing;
     constexpr int usualColumns = 8;
-    int next = (pen_ / (usualColumns * columnDots) + 1) * usualColumns * columnDots;
-    if (!settings_.tabColumns.empty()) {
+    int next = (m_pen / (usualColumns * columnDots) + 1) * usualColumns * columnDots;
+    if (!m_settings.tabColumns.empty()) {
         next = lineDots() + 1;
-        for (const char column : settings_.tabColumns) {
+        for (const char column : m_settings.tabColumns) {
             const int stop = static_cast<unsigned char>(column) * columnDots;
-            next = stop > pen_ ? std::min(next, stop) : next;
+            next = stop > m_pen ? std::min(next, stop) : next;
         }
     }
     if (next <= lineDots()) {
-        pen_ = next;
+        m_pen = next;
     }
 }
 
@@ -349,112 +349,112 @@ void Typesetter::text(const Command& command)
 
 void Typesetter::character(unsigned char byte, std::uint64_t offset)
 {
-    const Style& style = settings_.style;
-    fullLinePrinted_ = false;
-    if (pen_ > 0 && pen_ + style.widthDots() > lineDots()) {
-        flushLine(settings_.lineSpacing);
+    const Style& style = m_settings.style;
+    m_fullLinePrinted = false;
+    if (m_pen > 0 && m_pen + style.widthDots() > lineDots()) {
+        flushLine(m_settings.lineSpacing);
     }
-    if (line_.empty()) {
-        lineBegan_ = offset;
+    if (m_line.empty()) {
+        m_lineBegan = offset;
     }
-    line_.push_back({characterOf(settings_.codeTable, byte), style, pen_});
-    pen_ += style.widthDots() + settings_.characterSpacing * style.widthFactor;
+    m_line.push_back({characterOf(m_settings.codeTable, byte), style, m_pen});
+    m_pen += style.widthDots() + m_settings.characterSpacing * style.widthFactor;
     // A line that is full is on paper: a reset cannot take it back. The line feed that follows
     // it, as after any line, only ends it.
-    if (pen_ + cellOf(Font::B).widthDots > lineDots() || line_.size() >= kLongestLine) {
-        flushLine(settings_.lineSpacing);
-        fullLinePrinted_ = true;
+    if (m_pen + cellOf(Font::B).widthDots > lineDots() || m_line.size() >= longestLine) {
+        flushLine(m_settings.lineSpacing);
+        m_fullLinePrinted = true;
     }
 }
 
 void Typesetter::lineFeed()
 {
-    if (!fullLinePrinted_) {
-        flushLine(settings_.lineSpacing);
+    if (!m_fullLinePrinted) {
+        flushLine(m_settings.lineSpacing);
     }
-    fullLinePrinted_ = false;
+    m_fullLinePrinted = false;
 }
 
 void Typesetter::feedLines(int count)
 {
-    if (count > 0 && (fullLinePrinted_ || !line_.empty())) {
+    if (count > 0 && (m_fullLinePrinted || !m_line.empty())) {
         lineFeed();
         --count;
     }
     if (count > 0) {
-        emitLine(Bitmap(), count * settings_.lineSpacing,
+        emitLine(Bitmap(), count * m_settings.lineSpacing,
                  std::string(static_cast<std::size_t>(count - 1), '\n'));
     }
 }
 
 void Typesetter::feedDots(int dots)
 {
-    fullLinePrinted_ = false;
-    if (!line_.empty()) {
+    m_fullLinePrinted = false;
+    if (!m_line.empty()) {
         flushLine(dots);
-    } else if (page_) {
+    } else if (m_page) {
         emitLine(Bitmap(), dots, "");
     } else {
-        paper_.feed(dots);
+        m_paper.feed(dots);
     }
 }
 
 void Typesetter::flushIfBegun()
 {
-    if (!line_.empty()) {
-        flushLine(settings_.lineSpacing);
+    if (!m_line.empty()) {
+        flushLine(m_settings.lineSpacing);
     }
 }
 
 void Typesetter::endLineBefore(std::string_view what)
 {
-    if (!line_.empty()) {
+    if (!m_line.empty()) {
         remark(std::string(what) + " in mid-line: the line is printed first");
-        flushLine(settings_.lineSpacing);
+        flushLine(m_settings.lineSpacing);
     }
-    fullLinePrinted_ = false;
-    pen_ = 0;
+    m_fullLinePrinted = false;
+    m_pen = 0;
 }
 
 void Typesetter::flushLine(int spacingDots)
 {
     int height = 0;
-    for (const PlacedGlyph& glyph : line_) {
+    for (const PlacedGlyph& glyph : m_line) {
         height = std::max(height, glyph.style.heightDots());
     }
-    const int left = aligned(pen_);
-    Bitmap strip(page_ ? lineDots() : model_.widthDots(), height);
-    for (const PlacedGlyph& glyph : line_) {
+    const int left = aligned(m_pen);
+    Bitmap strip(m_page ? lineDots() : m_model.widthDots(), height);
+    for (const PlacedGlyph& glyph : m_line) {
         drawGlyph(strip, glyph, left);
     }
     const std::string read = lineText(left);
-    line_.clear();
-    pen_ = 0;
+    m_line.clear();
+    m_pen = 0;
     emitLine(strip, std::max(spacingDots, height), read);
 }
 
 void Typesetter::emitLine(const Bitmap& dots, int advanceDots, const std::string& text)
 {
-    if (!page_) {
-        paper_.print(dots, advanceDots, text);
+    if (!m_page) {
+        m_paper.print(dots, advanceDots, text);
         return;
     }
-    if (down_ >= page_->depthDots()) {
+    if (m_down >= m_page->depthDots()) {
         if (dots.height() > 0) {
             remark("below the page area, not printed: " + text);
         }
         return;
     }
-    if (dots.height() > 0 && page_->place(dots, 0, down_, text) > 0) {
+    if (dots.height() > 0 && m_page->place(dots, 0, m_down, text) > 0) {
         remark("cut off at the edge of the page area: " + text);
     }
-    down_ += advanceDots;
+    m_down += advanceDots;
 }
 
 void Typesetter::drawGlyph(Bitmap& strip, const PlacedGlyph& glyph, int left)
 {
     const Style& style = glyph.style;
-    const Bitmap& shape = glyphs_.glyph(glyph.character, style.font);
+    const Bitmap& shape = m_glyphs.glyph(glyph.character, style.font);
     const Cell cell = cellOf(style.font);
     const bool bold = style.emphasised || style.doubleStrike;
     const int x = left + glyph.x;
@@ -482,7 +482,7 @@ std::string Typesetter::lineText(int leftDots) const
 {
     std::string read;
     int end = -leftDots;
-    for (const PlacedGlyph& glyph : line_) {
+    for (const PlacedGlyph& glyph : m_line) {
         const int gap = (glyph.x - end) / cellOf(glyph.style.font).widthDots;
         read.append(static_cast<std::size_t>(std::max(gap, 0)), ' ');
         appendUtf8(read, glyph.character);
@@ -493,16 +493,16 @@ std::string Typesetter::lineText(int leftDots) const
 
 void Typesetter::throwAway(std::string_view who)
 {
-    if (!line_.empty()) {
+    if (!m_line.empty()) {
         remark(std::string(who) + " throws away what was received at " +
-               std::to_string(lineBegan_) + " and not yet printed: " + lineText(0));
+               std::to_string(m_lineBegan) + " and not yet printed: " + lineText(0));
     }
-    if (page_ && page_->isUnprinted()) {
+    if (m_page && m_page->isUnprinted()) {
         remark(std::string(who) + " throws away a page that was not printed");
     }
-    line_.clear();
-    pen_ = 0;
-    fullLinePrinted_ = false;
+    m_line.clear();
+    m_pen = 0;
+    m_fullLinePrinted = false;
 }
 
 // ------------------------------------------------------------------ symbols and graphics
@@ -510,47 +510,48 @@ void Typesetter::throwAway(std::string_view who)
 void Typesetter::refuse(const std::string& what)
 {
     remark(what);
-    paper_.note(what);
+    m_paper.note(what);
 }
 
 void Typesetter::printSymbol(const Bitmap& dots, const std::string& caption, Foot foot)
 {
-    if (page_) {
+    if (m_page) {
         const int top =
-            foot == Foot::OnLine ? down_ + cellOf(Font::A).heightDots - dots.height() : down_;
-        if (page_->place(dots, pen_, top, caption) > 0) {
+            foot == Foot::OnLine ? m_down + cellOf(Font::A).heightDots - dots.height() : m_down;
+        if (m_page->place(dots, m_pen, top, caption) > 0) {
             remark("cut off at the edge of the page area: " + caption);
         }
-        pen_ += dots.width();
+        m_pen += dots.width();
         return;
     }
     endLineBefore("symbol");
     const int left = aligned(dots.width());
-    Bitmap strip(model_.widthDots(), dots.height());
+    Bitmap strip(m_model.widthDots(), dots.height());
     strip.draw(dots, left, 0);
     const std::string indent(static_cast<std::size_t>(left / cellOf(Font::A).widthDots), ' ');
-    paper_.print(strip, dots.height(), indent + caption);
+    m_paper.print(strip, dots.height(), indent + caption);
 }
 
 void Typesetter::printBarcode(const Command& command)
 {
     const unsigned symbology = command.arg(0);
     const Symbol barcode =
-        encodeBarcode(symbology, command.data(), model_.picksCode128Set, settings_.barcodeModule,
-                      settings_.barcodeHeight, roomDots());
+        encodeBarcode(symbology, command.data(), m_model.picksCode128Set, m_settings.barcodeModule,
+                      m_settings.barcodeHeight, roomDots());
     if (!barcode.problem.empty()) {
         return refuse("barcode not printed: it " + barcode.problem);
     }
     const std::string caption =
         "[" + std::string(barcodeName(symbology)) + " " + shortened(barcode.text) + "]";
-    printSymbol(withText(barcode), caption, model_.symbolsStandOnLine ? Foot::OnLine : Foot::Below);
+    printSymbol(withText(barcode), caption,
+                m_model.symbolsStandOnLine ? Foot::OnLine : Foot::Below);
 }
 
 Bitmap Typesetter::withText(const Symbol& barcode)
 {
-    const bool above = (settings_.barcodeTextPosition & 1) != 0;
-    const bool below = (settings_.barcodeTextPosition & 2) != 0;
-    const Cell cell = cellOf(settings_.barcodeTextFont);
+    const bool above = (m_settings.barcodeTextPosition & 1) != 0;
+    const bool below = (m_settings.barcodeTextPosition & 2) != 0;
+    const Cell cell = cellOf(m_settings.barcodeTextFont);
     const int textWidth = static_cast<int>(barcode.text.size()) * cell.widthDots;
     const int width = above || below ? std::clamp(textWidth, barcode.dots.width(), roomDots())
                                      : barcode.dots.width();
@@ -560,7 +561,7 @@ Bitmap Typesetter::withText(const Symbol& barcode)
     int x = (width - textWidth) / 2;
     for (const char character : barcode.text) {
         const Bitmap& shape =
-            glyphs_.glyph(static_cast<unsigned char>(character), settings_.barcodeTextFont);
+            m_glyphs.glyph(static_cast<unsigned char>(character), m_settings.barcodeTextFont);
         if (above) {
             all.draw(shape, x, 0);
         }
@@ -579,7 +580,7 @@ void Typesetter::printQr(std::string_view data, QrLevel level, int moduleDots)
         return refuse("QR code not printed: it " + symbol.problem);
     }
     printSymbol(symbol.dots, "[QR code " + shortened(data) + "]",
-                model_.symbolsStandOnLine ? Foot::OnLine : Foot::Below);
+                m_model.symbolsStandOnLine ? Foot::OnLine : Foot::Below);
 }
 
 void Typesetter::printGraphic(const Command& command)
@@ -587,11 +588,11 @@ void Typesetter::printGraphic(const Command& command)
     const std::string key = {static_cast<char>(command.arg(0)), static_cast<char>(command.arg(1))};
     const unsigned across = command.arg(2);
     const unsigned down = command.arg(3);
-    const auto graphic = graphics_.find(key);
+    const auto graphic = m_graphics.find(key);
     if (across < 1 || across > 2 || down < 1 || down > 2) {
-        return remark(kOutOfRange);
+        return remark(outOfRange);
     }
-    if (graphic == graphics_.end()) {
+    if (graphic == m_graphics.end()) {
         return remark("no graphic is stored under " + quoted(key) + ": nothing printed");
     }
     Bitmap scaled(graphic->second.width() * static_cast<int>(across),
@@ -606,7 +607,7 @@ void Typesetter::printRaster(const Command& command)
     const auto bytesPerRow = static_cast<int>(command.arg16(1));
     const auto rows = static_cast<int>(command.arg16(3));
     if (scale > 3) {
-        return remark(kOutOfRange);
+        return remark(outOfRange);
     }
     const int across = (scale & 1U) != 0 ? 2 : 1;
     const int down = (scale & 2U) != 0 ? 2 : 1;
@@ -634,33 +635,33 @@ void Typesetter::printRaster(const Command& command)
 
 void Typesetter::enterPage()
 {
-    if (page_) {
+    if (m_page) {
         return;
     }
     endLineBefore("page mode");
-    page_.emplace(model_.widthDots());
-    page_->setDirection(settings_.pageDirection);
-    if (settings_.pageArea) {
-        page_->setArea(*settings_.pageArea);
+    m_page.emplace(m_model.widthDots());
+    m_page->setDirection(m_settings.pageDirection);
+    if (m_settings.pageArea) {
+        m_page->setArea(*m_settings.pageArea);
     }
-    down_ = 0;
+    m_down = 0;
 }
 
 void Typesetter::printPage()
 {
     flushIfBegun();
-    const Bitmap dots = page_->dots();
-    paper_.print(dots, dots.height(), page_->text());
-    page_->markPrinted();
+    const Bitmap dots = m_page->dots();
+    m_paper.print(dots, dots.height(), m_page->text());
+    m_page->markPrinted();
 }
 
 void Typesetter::leavePage()
 {
-    if (page_) {
-        page_.reset();
-        settings_.pageArea.reset();
-        line_.clear();
-        pen_ = 0;
+    if (m_page) {
+        m_page.reset();
+        m_settings.pageArea.reset();
+        m_line.clear();
+        m_pen = 0;
     }
 }
 
@@ -683,13 +684,13 @@ void Typesetter::act(const Command& command)
     case Op::Barcode:
         return printBarcode(command);
     case Op::QrPrint:
-        return printQr(settings_.qrData, settings_.qrLevel, settings_.qrModule);
+        return printQr(m_settings.qrData, m_settings.qrLevel, m_settings.qrModule);
     case Op::QrAltPrint: {
         const auto level = std::string_view("LMQH").find(static_cast<char>(command.arg(0)));
         return level == std::string_view::npos
-                   ? remark(kOutOfRange)
+                   ? remark(outOfRange)
                    : printQr(command.data(), static_cast<QrLevel>(level + 1),
-                             settings_.qrAltModule);
+                             m_settings.qrAltModule);
     }
     case Op::QrBemaPrint: {
         // The size counts half dots, the level is the share of the symbol that may be lost.
@@ -699,7 +700,7 @@ void Typesetter::act(const Command& command)
                               : share < 20 ? QrLevel::Q
                                            : QrLevel::H;
         return command.arg(0) < 2 || command.arg(0) > 32
-                   ? remark(kOutOfRange)
+                   ? remark(outOfRange)
                    : printQr(command.data(), level, static_cast<int>(command.arg(0)) / 2);
     }
     case Op::StoredGraphic:
@@ -707,23 +708,23 @@ void Typesetter::act(const Command& command)
     case Op::RasterImage:
         return printRaster(command);
     case Op::Cut:
-        if (page_) {
+        if (m_page) {
             return remark("in page mode: ignored");
         }
         endLineBefore("cut");
         if (command.arg(0) >= 'A') { // these forms feed first
-            paper_.feed(static_cast<int>(command.arg(1)));
+            m_paper.feed(static_cast<int>(command.arg(1)));
         }
-        return paper_.cut();
+        return m_paper.cut();
     case Op::Drawer:
         if (numberOrDigit(command.arg(0)) > 1) {
-            return remark(kOutOfRange);
+            return remark(outOfRange);
         }
-        return paper_.note("drawer " + std::to_string(numberOrDigit(command.arg(0))) + ": " +
-                           number(1, 2) + " ms on, " + number(2, 2) + " ms off");
+        return m_paper.note("drawer " + std::to_string(numberOrDigit(command.arg(0))) + ": " +
+                            number(1, 2) + " ms on, " + number(2, 2) + " ms off");
     case Op::Buzzer:
-        return paper_.note("buzzer " + number(0, 1) + " times: " + number(1, 100) + " ms on, " +
-                           number(2, 100) + " ms off");
+        return m_paper.note("buzzer " + number(0, 1) + " times: " + number(1, 100) + " ms on, " +
+                            number(2, 100) + " ms off");
     default:
         return; // nothing that shows on paper; the list of commands has it
     }

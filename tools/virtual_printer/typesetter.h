@@ -1,8 +1,5 @@
-/** \file typesetter.h
- *  The printer between its command buffer and its paper: commands in, printed lines out.
- */
-#ifndef Q7_VIRTUAL_PRINTER_TYPESETTER_H
-#define Q7_VIRTUAL_PRINTER_TYPESETTER_H
+// The printer between its command buffer and its paper: commands in, printed lines out.
+#pragma once
 
 #include "code_table.h"
 #include "device.h"
@@ -46,8 +43,8 @@ private:
         int widthFactor = 1;
         int heightFactor = 1;
 
-        [[nodiscard]] int widthDots() const { return cellOf(font).widthDots * widthFactor; }
-        [[nodiscard]] int heightDots() const { return cellOf(font).heightDots * heightFactor; }
+        int widthDots() const { return cellOf(font).widthDots * widthFactor; }
+        int heightDots() const { return cellOf(font).heightDots * heightFactor; }
     };
     /** What ESC @ sets back. */
     struct Settings {
@@ -96,11 +93,11 @@ private:
     void endLineBefore(std::string_view what);
     void emitLine(const Bitmap& dots, int advanceDots, const std::string& text);
     void drawGlyph(Bitmap& strip, const PlacedGlyph& glyph, int left);
-    [[nodiscard]] std::string lineText(int leftDots) const;
-    [[nodiscard]] int aligned(int widthDots) const;
+    std::string lineText(int leftDots) const;
+    int aligned(int widthDots) const;
 
     void printBarcode(const Command& command);
-    [[nodiscard]] Bitmap withText(const Symbol& barcode);
+    Bitmap withText(const Symbol& barcode);
     void printQr(std::string_view data, QrLevel level, int moduleDots);
     void printGraphic(const Command& command);
     void printRaster(const Command& command);
@@ -112,26 +109,24 @@ private:
     void printPage();
     void leavePage();
     void throwAway(std::string_view who);
-    void remark(std::string_view text) const { remarks_(at_, text); }
-    [[nodiscard]] int lineDots() const;
-    [[nodiscard]] int roomDots() const;
+    void remark(std::string_view text) const { m_remarks(m_at, text); }
+    int lineDots() const;
+    int roomDots() const;
 
-    Model model_;
-    Glyphs& glyphs_;
-    const Graphics& graphics_;
-    Paper& paper_;
-    Remarks remarks_;
+    Model m_model;
+    Glyphs& m_glyphs;
+    const Graphics& m_graphics;
+    Paper& m_paper;
+    Remarks m_remarks;
 
-    std::uint64_t at_ = 0;
-    Settings settings_;
-    std::vector<PlacedGlyph> line_;
-    std::uint64_t lineBegan_ = 0;
-    int pen_ = 0;
-    bool fullLinePrinted_ = false;
-    std::optional<Page> page_;
-    int down_ = 0; /**< vertical position in the page's area */
+    std::uint64_t m_at = 0;
+    Settings m_settings;
+    std::vector<PlacedGlyph> m_line;
+    std::uint64_t m_lineBegan = 0;
+    int m_pen = 0;
+    bool m_fullLinePrinted = false;
+    std::optional<Page> m_page;
+    int m_down = 0; // vertical position in the page's area
 };
 
 } // namespace virtual_printer
-
-#endif

@@ -9,43 +9,55 @@
 #include "bytes.h"
 #include "fake_printer.h"
 #include "temporary_folder.h"
-#include "usblp_tree.h"
 
 #include <filesystem>
+#include <fstream>
 
 #include <gtest/gtest.h>
 
 using namespace q7;
 using namespace q7test;
+namespace fs = std::filesystem;
 
 namespace
 {
 
-std::string hexOf(quint16 identifier)
-{
-    return QString::number(identifier, 16).rightJustified(4, '0').toStdString();
-}
-
 class Usb : public testing::Test
 {
 protected:
+    Usb() { fs::create_directories(classFolder), fs::create_directories(deviceFolder); }
+
+    /** Adds the printer lp<number> as Linux shows those of its usblp driver. target: what its
+     *  character device leads to; empty for none. */
+    void addDevice(int number, const std::string& vendor, const std::string& product,
+                   const std::string& target = {})
+    {
+        const std::string name = "lp" + std::to_string(number);
+        const std::string device = tree.path() + "/1-" + std::to_string(number);
+        const std::string entry = device + "/1-1:1.0/usbmisc/" + name;
+        fs::create_directories(entry);
+        std::ofstream(device + "/idVendor") << vendor << '\n';
+        std::ofstream(device + "/idProduct") << product << '\n';
+        fs::create_directory_symlink("../../../1-1:1.0", entry + "/device");
+        fs::create_directory_symlink(entry, classFolder + '/' + name);
+        if (!target.empty())
+            fs::create_symlink(target, deviceOf(number));
+    }
+
     void add(int number, const char* model, const std::string& target = {})
     {
-        const PrinterModel* row = modelByName(model);
-        tree.add(number, hexOf(row->vendorId), hexOf(row->productId), target);
+        const std::string text = makeUsbIdText(model).toStdString(); // VID_1A01&PID_0001
+        addDevice(number, text.substr(4, 4), text.substr(13), target);
     }
 
     UsbSearch find(const char* model) const
     {
-        return UsblpPrinters(QString::fromStdString(tree.classFolder()),
-                             QString::fromStdString(tree.deviceFolder()))
+        return UsblpPrinters(QString::fromStdString(classFolder),
+                             QString::fromStdString(deviceFolder))
             .find(model);
     }
 
-    std::string deviceOf(int number) const
-    {
-        return tree.deviceFolder() + "/lp" + std::to_string(number);
-    }
+    std::string deviceOf(int number) const { return deviceFolder + "/lp" + std::to_string(number); }
 
     int open(const char* model)
     {
@@ -54,7 +66,9 @@ protected:
     }
 
     DataFolder data;
-    UsblpTree tree;
+    TemporaryFolder tree;
+    const std::string classFolder = tree.path() + "/class";
+    const std::string deviceFolder = tree.path() + "/dev";
     PrinterConnection connection{[this](const QString& model) { return find(model.toUtf8()); }};
 };
 
@@ -63,8 +77,8 @@ TEST_F(Usb, TheLowestNumberWins)
     add(10, "VANTA");
     add(9, "VANTA");
     add(0, "VESPA");
-    tree.add(1, "1a01", "", ""); // no product
-    std::filesystem::create_directory(tree.classFolder() + "/lpx");
+    addDevice(1, "1a01", ""); // no product
+    fs::create_directory(classFolder + "/lpx");
     EXPECT_EQ(0, find("VANTA").result);
     EXPECT_EQ(deviceOf(9), find("VANTA").path.toStdString());
     EXPECT_EQ(deviceOf(0), find("VESPA").path.toStdString());
@@ -75,8 +89,8 @@ TEST_F(Usb, TheLowestNumberWins)
 
 TEST_F(Usb, IdentifiersAreComparedInCapitals)
 {
-    tree.add(3, "1A04", "0001");
-    tree.add(4, "1a05", "0001");
+    addDevice(3, "1A04", "0001");
+    addDevice(4, "1a05", "0001");
     EXPECT_EQ(0, find("PINTA").result);
     EXPECT_EQ(0, find("DUNEL").result);
     add(5, "RANZA");

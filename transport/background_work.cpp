@@ -45,6 +45,12 @@ BackgroundWork* anyWorkUnderWay()
     return workUnderWay().work.empty() ? nullptr : *workUnderWay().work.begin();
 }
 
+void forget(BackgroundWork* work)
+{
+    const std::lock_guard<std::mutex> lock(workUnderWay().mutex);
+    workUnderWay().work.erase(work);
+}
+
 struct StopsAllAtTheEnd {
     ~StopsAllAtTheEnd()
     {
@@ -82,16 +88,15 @@ void BackgroundWork::stop()
 {
     if (!m_thread)
         return;
-    if (m_thread->process != QCoreApplication::applicationPid()) {
-        static_cast<void>(m_thread.release()); // its locks may be held for ever by the lost thread
+    forget(this);
+    const bool isForked = m_thread->process != QCoreApplication::applicationPid();
+    if (isForked || processIsEnding()) {
+        // The thread is gone, wherever it stood: it may hold its locks for ever.
+        static_cast<void>(m_thread.release());
         return;
     }
     m_thread->stop();
     m_thread.reset();
-    {
-        const std::lock_guard<std::mutex> lock(workUnderWay().mutex);
-        workUnderWay().work.erase(this);
-    }
     releaseLibrary();
 }
 

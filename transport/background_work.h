@@ -26,7 +26,8 @@ public:
     void start(Step step);
 
     /** Cuts a pause short; returns once the step under way has ended. In a process that was forked
-     *  off meanwhile there is no thread, and nothing to stop. */
+     *  off meanwhile, and in one whose end has taken the other threads already, there is no thread
+     *  and nothing to stop. */
     void stop();
 
 private:

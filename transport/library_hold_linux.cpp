@@ -15,4 +15,9 @@ void keepLibraryLoaded()
         ::dlopen(self.dli_fname, RTLD_LAZY | RTLD_NODELETE | RTLD_NOLOAD);
 }
 
+bool processIsEnding()
+{
+    return false; // the threads live on until the static destructors have run
+}
+
 } // namespace q7

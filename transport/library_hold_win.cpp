@@ -34,4 +34,12 @@ void keepLibraryLoaded()
     thisLibrary(GET_MODULE_HANDLE_EX_FLAG_PIN);
 }
 
+bool processIsEnding()
+{
+    // In no header.
+    const auto query = reinterpret_cast<BOOLEAN(WINAPI*)()>(reinterpret_cast<void (*)()>(
+        ::GetProcAddress(::GetModuleHandleW(L"ntdll.dll"), "RtlDllShutdownInProgress")));
+    return query != nullptr && query() != FALSE;
+}
+
 } // namespace q7

@@ -21,14 +21,15 @@ public:
 
     virtual ~UsbDevice() = default;
 
-    /** Writes all bytes and flushes; ends at the time-out with what was taken by then. */
+    /** Writes all bytes, and flushes where the system can; ends at the time-out with what was taken by then. */
     virtual Written write(const QByteArray& bytes, int timeoutMs) = 0;
 
     /** Waits at most timeoutMs for bytes and returns those that came, at most usbReplyLimit; empty when none
      *  did or the device failed. A read that was given up swallows nothing of a later reply. */
     virtual QByteArray read(int timeoutMs) = 0;
 
-    /** Returns 0, or the system's error number. */
+    /** Waits until what was taken has gone to the printer, at most 5 s, and closes. Returns 0, or the
+     *  system's error number. */
     virtual int close() = 0;
 };
 

@@ -67,13 +67,19 @@ public:
 
     int close() override
     {
+        if (m_descriptor < 0)
+            return 0;
+        // The driver takes bytes before it transfers them, and closing ends the transfer under way.
+        // It can take more once that is done.
+        waitFor(m_descriptor, POLLOUT, QDeadlineTimer(transferLimitMs));
         // The number is free again whatever close() says, and may be another's by the next call.
         const int descriptor = std::exchange(m_descriptor, -1);
-        return descriptor >= 0 && ::close(descriptor) != 0 && errno != EINTR ? errno : 0;
+        return ::close(descriptor) != 0 && errno != EINTR ? errno : 0;
     }
 
 private:
     static constexpr int emptyReadPauseMs = 5;
+    static constexpr int transferLimitMs = 5000;
 
     int m_descriptor;
 };

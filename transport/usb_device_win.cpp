@@ -199,8 +199,8 @@ public:
                                          static_cast<DWORD>(bytes.size()), &count, nullptr) != 0;
         const int error = written ? 0 : lastError();
         ::FlushFileBuffers(m_handle);
-        const bool timedOut = guard.stop();
-        return {timedOut ? 0 : error, static_cast<int>(count)};
+        const bool wasCancelled = guard.stop() && error == ERROR_OPERATION_ABORTED;
+        return {wasCancelled ? 0 : error, static_cast<int>(count)};
     }
 
     QByteArray read(int timeoutMs) override

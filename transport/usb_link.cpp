@@ -34,13 +34,26 @@ int UsbLink::send(const QByteArray& bytes)
 {
     if (!isOpen())
         return Q7_ERR_NOT_OPEN;
-    const int timeoutMs = m_stalled ? stalledWriteTimeoutMs : writeTimeoutMsFor(bytes.size());
-    const UsbDevice::Written written = m_device->write(bytes, timeoutMs);
-    // The system's own number, although it can be taken for a count: applications know it.
-    if (written.error != 0)
-        return written.error;
-    m_stalled = written.count == 0 && !bytes.isEmpty();
-    return written.count == 0 ? int{Q7_ERR_NOT_SENT} : written.count;
+    int count = 0;
+    if (m_stalled) {
+        const UsbDevice::Written tried = m_device->write(bytes, stalledWriteTimeoutMs);
+        if (tried.error != 0)
+            return tried.error;
+        if (tried.count == 0 && !bytes.isEmpty())
+            return Q7_ERR_NOT_SENT;
+        m_stalled = false;
+        count = tried.count;
+    }
+    if (count < bytes.size() || bytes.isEmpty()) {
+        const UsbDevice::Written written =
+            m_device->write(bytes.mid(count), writeTimeoutMsFor(bytes.size()));
+        // The system's own number, although it can be taken for a count: applications know it.
+        if (written.error != 0)
+            return written.error;
+        count += written.count;
+        m_stalled = written.count == 0 && !bytes.isEmpty();
+    }
+    return count == 0 ? int{Q7_ERR_NOT_SENT} : count;
 }
 
 bool UsbLink::waitReadable(int /*timeoutMs*/)

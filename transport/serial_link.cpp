@@ -2,6 +2,7 @@
 
 #include "q7_impressora.h"
 #include "serial_system.h"
+#include "signal_block.h"
 #include "stream_link.h"
 #include "thread_free.h"
 
@@ -17,6 +18,7 @@ namespace
 template <typename Function> void runOnQtThread(Function function)
 {
     const std::unique_ptr<QThread> thread(QThread::create(function));
+    const SignalBlock everySignal(SignalBlock::Every); // the host's are for its own threads
     thread->start();
     thread->wait();
 }
@@ -60,7 +62,7 @@ public:
     }
 
 protected:
-    void flushDevice() override { m_port->flush(); }
+    void flushDevice() override { writeWithoutWaiting(*m_port); }
     qint64 bytesInSystem() override { return q7::bytesInSystem(*m_port); }
 
 private:

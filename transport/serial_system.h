@@ -15,6 +15,9 @@ QString resolveSerialPortName(const QString& text);
  *  that opened it. */
 void prepareSerialWrites(QSerialPort& port);
 
+/** Hands the system what it takes at once. */
+void writeWithoutWaiting(QSerialPort& port);
+
 /** Bytes that the system took and that have not gone down the line yet. */
 qint64 bytesInSystem(QSerialPort& port);
 

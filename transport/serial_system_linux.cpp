@@ -48,6 +48,11 @@ void prepareSerialWrites(QSerialPort& port)
     port.clear(QSerialPort::Output);
 }
 
+void writeWithoutWaiting(QSerialPort& port)
+{
+    port.flush();
+}
+
 qint64 bytesInSystem(QSerialPort& port)
 {
     int bytes = 0;

@@ -21,6 +21,14 @@ void prepareSerialWrites(QSerialPort& port)
     port.clear(QSerialPort::Output);
 }
 
+// Flushing starts a write; that it has ended, so that the next can start, only a wait notices where
+// no event loop runs.
+void writeWithoutWaiting(QSerialPort& port)
+{
+    port.flush();
+    port.waitForBytesWritten(0);
+}
+
 qint64 bytesInSystem(QSerialPort& port)
 {
     DWORD errors = 0;

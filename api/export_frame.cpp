@@ -5,11 +5,13 @@ namespace q7
 
 SessionCall::SessionCall(PrinterSession& printerSession) : m_session(printerSession)
 {
-    if (m_session.callDepth++ != 0)
-        return;
-    m_brokenPipe.emplace(SignalBlock::BrokenPipe);
-    if (m_session.connection)
-        m_session.connection->beginCall();
+    if (m_session.callDepth == 0) {
+        m_brokenPipe.emplace(SignalBlock::BrokenPipe);
+        if (m_session.connection)
+            m_session.connection->beginCall();
+    }
+    // Last: what failed before it, for want of memory, has no destructor to take it back.
+    ++m_session.callDepth;
 }
 
 SessionCall::~SessionCall()

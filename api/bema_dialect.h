@@ -9,7 +9,7 @@ namespace q7
 {
 
 /** Prints a QR code; logs as "ImpressaoQRCodeBema". moduleSize: 1..6. level: 1 L, 2 M, 3 Q, 4 H;
- *  higher values pass as they are.
+ *  higher values pass. A line feed goes first, before the arguments are looked at.
  *  Returns 0; Q7_ERR_QR_EMPTY, _QR_SIZE, _QR_LEVEL, or the failed send's result.
  *  ESC/POS: GS k Q. */
 int printBemaQrCode(PrinterSession& printerSession, const char* data, int moduleSize, int level);

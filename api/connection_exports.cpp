@@ -43,8 +43,8 @@ Outcome open(PrinterSession& printerSession, int kind, const QString& model,
         printerSession.modelIndex = row->id;
     else if (printerSession.lastResult != 0)
         return returned(Q7_ERR_MODEL);
-    // else an unknown name passes behind a success, with the model of before: applications open
-    // first with a name of their own.
+    // else an unknown name passes while the last result is 0 (after loading, opening or closing),
+    // with the model of before: applications open first with a name of their own.
 
     printerSession.lastResult = Q7_ERR_FAILED;
     if (kind == SerialConnection && !isSerialSpeed(number))

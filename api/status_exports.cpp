@@ -105,6 +105,8 @@ int queryCombinedState(PrinterSession& printerSession)
 // The reply as Latin-1 text to its first zero byte, or a code in decimal.
 QByteArray identify(PrinterSession& printerSession, int kind)
 {
+    // Applications know the digit behind the first two: the printer, which asks for no second byte,
+    // takes it for text.
     static constexpr const char* requests[] = {"\x01\x31", "\x02\x32", "\x41", "\x42",
                                                "\x43",     "\x44",     "\x45"};
     constexpr int highestKind = 6;

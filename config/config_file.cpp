@@ -22,7 +22,7 @@ constexpr char serviceGroup[] = "configuracao_service";
 constexpr char labelGroup[] = "configuracao_etiqueta";
 constexpr char generalGroup[] = "configuracao_geral";
 
-// In the order in which a new file is written.
+// In the order in which a new file is written on Windows; elsewhere QSettings sorts.
 constexpr Setting settingTable[] = {
     {printerGroup, "caminho_biblioteca", "C:/Program Files (x86)/Q7/Q7_Impressora.dll"},
     {printerGroup, "caminho_xsd", "C:/Program Files (x86)/Q7/"},

@@ -14,13 +14,16 @@
  *   3. Results. 0, or a count of bytes where a function says so, is success; the codes of
  *      Q7Result are failures. A positive number from AbreConexaoImpressora or
  *      FechaConexaoImpressora is an error number of the system or the socket layer. Over USB a
- *      failed write returns the system's error number, which is positive too and can be taken for
- *      a count of bytes.
+ *      failed write gives the system's error number, which is positive too: the functions that
+ *      return a count (ImpressaoTexto, PrintText, PrintTextS) and SetAlign return it as if it were
+ *      one, all others take it for a success.
  *   4. A refused TCP connection is error number 0 and so reads as success; the next call answers
  *      Q7_ERR_NOT_OPEN. Call StatusImpressora after opening to be sure.
- *   5. Returned texts (GetVersaoDLL, IdImpressora) stay with the caller, who never frees them.
+ *   5. Returned texts (GetVersaoDLL, IdImpressora) stay with the caller, who never frees them. They
+ *      are null where memory is at its end.
  *   6. Kept across FechaConexaoImpressora: the line spacing, page mode (texts stop resetting the
- *      printer once ModoPagina was called) and which copy of a contingency note comes next.
+ *      printer once ModoPagina was called), which copy of a contingency note comes next, the model
+ *      and the name given to PrinterCreator.
  *   7. Effect. Bytes leave when the call returns. FechaConexaoImpressora waits until what was
  *      accepted has been handed over, within a bound; ending the process without it may lose a tail.
  *
@@ -34,7 +37,8 @@
  *  Files. The data folder is the registry value "data_path" under HKEY_LOCAL_MACHINE\\SOFTWARE\\Q7,
  *  64-bit view (on Linux the environment variable Q7_DATA_PATH), else the working folder. A file
  *  "log_q7.txt" that exists there receives every call and every byte sent. It then holds the CSC
- *  and customers' data: delete it when it has served. "q7_conf.ini" holds the settings; its paths
+ *  and customers' data: delete it when it has served. Where it cannot be opened, "Erro ao abrir
+ *  arquivo!" goes to standard output, the only text that ever does. "q7_conf.ini" holds the settings; its paths
  *  are written with "/". "q7_usb.ini" may give the USB identifiers of a site's printers.
  *
  *  A receipt in four calls:
@@ -65,7 +69,8 @@
 extern "C" {
 #endif
 
-/** Result codes: the negative values of the functions that return an int. */
+/** Result codes. -71 and -72 are kept for the log, -402 comes as text from IdImpressora, and -6 is
+ *  kept for compatibility: no function returns it. */
 enum Q7Result {
     Q7_OK = 0,
     Q7_ERR_KIND = -2,              /**< connection kind not 1, 2 or 3 */
@@ -119,7 +124,8 @@ enum Q7Result {
 /** Opens the connection to the printer.
  *  tipo: 1 USB, 2 serial port, 3 network (TCP).
  *  modelo: model name, in any letter case: VANTA, VESPA, VOLTA, ORLA-K, PINTA, RANZA, RANZAPRO,
- *    SORBE, SALVI, DUNEL or TESMO.
+ *    SORBE, SALVI, DUNEL or TESMO. While the last result is 0 (after loading, opening or closing)
+ *    any other name passes too and leaves the model as it was.
  *  conexao: serial port name ("COM3"; on Linux "ttyUSB0" or a path), host name or address for TCP;
  *    ignored for USB.
  *  parametro: bits per second (300, 1200, 2400, 4800, 9600, 19200, 38400, 57600, 115200), TCP port
@@ -152,10 +158,13 @@ Q7_API char* Q7_CALL GetVersaoDLL(void);
  *  posicao: 0 leaves the alignment as it is, 1 centre, 2 right.
  *  stilo: sum of 1 small font, 2 underline, 4 white on black, 8 emphasised; 1 and 2 together give
  *    underline alone. A style lasts until the printer is reset.
- *  tamanho: 0..119, (width factor - 1) * 16 + (height factor - 1); 17 is double width and height.
- *  Unless a line spacing is stored or page mode was entered, the printer is reset first.
+ *  tamanho: 0..119, (width factor - 1) * 16 + (height factor - 1); 17 is double width and height,
+ *    0 leaves the size as it is.
+ *  Unless a line spacing is stored or page mode was entered, the printer is reset first, so that
+ *  alignment, style and size start anew.
  *  Returns the count of bytes of the text written; -4; -41 posicao; -42 stilo; -43 tamanho;
- *  -44 nothing written. Texts of 32768 bytes and more print, but their count wraps (16 bits).
+ *  -44 nothing written. Texts of 32768 bytes and more print, but over a serial port or TCP their
+ *  count wraps (16 bits): 40000 bytes return -44 although they print. Print such texts in parts.
  *  ESC/POS: ESC @ or ESC 3 n, ESC a n, ESC ! n, GS B 1, ESC E 1, GS ! n, ESC t 16.
  *  Example: ImpressaoTexto("TOTAL R$ 10,00\n", 1, 8, 0); */
 Q7_API int Q7_CALL ImpressaoTexto(const char* dados, int posicao, int stilo, int tamanho);
@@ -168,7 +177,8 @@ Q7_API int Q7_CALL ImpressaoTexto(const char* dados, int posicao, int stilo, int
  *  Example: EspacamentoEntreLinhas(40); ImpressaoTexto("Total\n", 0, 0, 0); */
 Q7_API int Q7_CALL EspacamentoEntreLinhas(int espacamento);
 
-/** Sets the alignment. posicao: 0 left, 1 centre, 2 right; negative values are sent as they are.
+/** Sets the alignment. posicao: 0 left, 1 centre, 2 right; of negative values the low byte is sent.
+ *  The next ImpressaoTexto undoes it where it resets the printer (see there).
  *  Returns 0; -4; -41 above 2; -44.
  *  ESC/POS: ESC a n.
  *  Example: DefinePosicao(1); */
@@ -194,8 +204,10 @@ Q7_API int Q7_CALL ImpressaoQRCode(const char* dados, int tamanho, int nivelCorr
 /** Prints a barcode.
  *  tipo: 0 UPC-A, 1 UPC-E, 2 EAN-13, 3 EAN-8, 4 CODE39, 5 ITF, 6 CODABAR, 7 CODE93, 8 CODE128.
  *  dados: digits for 0..3 (11 or 12, 11 or 12 from "0", 12 or 13, 7 or 8) and for 5 (an even
- *    number); for 4 digits, capitals and " $%*+-./"; for 6 start and stop A..D; for 8 text behind a
- *    subset selector "{A", "{B" or "{C", where "{C" is followed by pairs of digits.
+ *    number); for 4 1..255 digits, capitals and " $%*+-./"; for 6 digits and "$+-./:" between a
+ *    start and a stop, A..D or a..d; for 7 1..255 ASCII characters; for 8 text behind a subset
+ *    selector "{A", "{B" or "{C", where "{C" is followed by pairs of digits. SORBE needs no selector
+ *    and drops one.
  *  altura: dots, 1..255. largura: module width in dots, 1..6.
  *  HRI: text position, 1 above, 2 below, 3 both; 4 is sent as it is. DUNEL prints no text; SORBE
  *    keeps its own setting.
@@ -226,8 +238,8 @@ Q7_API int Q7_CALL Corte(int avanco);
  *  Example: AvancaPapel(2); */
 Q7_API int Q7_CALL AvancaPapel(int linhas);
 
-/** Opens the cash drawer. pino: 0 or 1. ti, tf: on and off times in units of 2 ms, 0..255; a 0 ends
- *  the command early.
+/** Opens the cash drawer. pino: 0 or 1. ti, tf: on and off times in units of 2 ms, 0..255. A 0 ends
+ *  the command early, and the printer takes what is printed next for the missing times: give 1..255.
  *  Returns 0; -4; -121 pino; -122 ti or tf; -9999.
  *  ESC/POS: ESC p m t1 t2.
  *  Example: AbreGaveta(0, 50, 200); */
@@ -261,17 +273,21 @@ Q7_API int Q7_CALL StatusImpressora(int param);
 /** Sends bytes as they are and reads a reply, waiting at most 1500 ms for its start and 500 ms for
  *  its end. Not logged by name; the bytes sent are.
  *  comando, tamanho: the bytes and their count. resposta: buffer for the reply, which must be large
- *  enough: the copy is not bounded (1024 bytes hold every reply over USB). tamanhoResposta: in, 0
- *  for no reply wanted; out, the count of bytes copied.
- *  Returns 0; -4; -81 no reply; -9999 when no reply was wanted, resposta or
- *  tamanhoResposta null included. A null comando sends nothing.
- *  Example: unsigned n = 64; DirectIO("\x1D\x49\x43", 3, buffer, &n); */
+ *  enough, whatever tamanhoResposta says: 1024 bytes hold every reply over USB; over a serial port or
+ *  TCP what the printer sent before and nobody read comes first, 65536 bytes hold all.
+ *  tamanhoResposta: in, 0 for no reply wanted; out, the count of bytes copied.
+ *  Returns 0; -4; -81 no reply; -9999 when no reply was wanted, resposta or tamanhoResposta null
+ *  included. A null comando or a tamanho below 1 sends nothing.
+ *  Example: char reply[65536]; unsigned n = sizeof reply; DirectIO("\x1D\x49\x43", 3, reply, &n); */
 Q7_API int Q7_CALL DirectIO(const char* comando, int tamanho, char* resposta,
                             unsigned int* tamanhoResposta);
 
 /** Asks the printer who it is. tipo: 0 model id, 1 type id, 2 firmware version, 3 maker, 4 model
  *  name, 5 serial number, 6 fonts.
- *  Returns new memory that is the caller's: the reply, or a code in decimal ("-4", "-81", "-402").
+ *  With 0 and 1 the digit 1 or 2 goes behind the command, which printers take for text: it stands
+ *  in front of the next line printed.
+ *  Returns new memory that is the caller's: the reply up to the first byte that is no UTF-8,
+ *  or a code in decimal ("-4", "-81", "-402").
  *  ESC/POS: GS I n.
  *  Example: puts(IdImpressora(4)); */
 Q7_API char* Q7_CALL IdImpressora(int tipo);
@@ -286,15 +302,18 @@ Q7_API int Q7_CALL ModoPagina(void);
  *  bottom. Returns 0; -4; -136; -44. ESC/POS: ESC T n. Example: DirecaoImpressao(0); */
 Q7_API int Q7_CALL DirecaoImpressao(int direcao);
 
-/** Sets the print area, all in dots. x, y: its corner. largura, altura: its width and height.
+/** Sets the print area, all in dots, 0..65535. x, y: its corner. largura, altura: its width and
+ *  height. Of values outside, the two bytes sent mean nothing.
  *  Returns 0; -4; -44. ESC/POS: ESC W. Example: DefineAreaImpressao(0, 0, 512, 1000); */
 Q7_API int Q7_CALL DefineAreaImpressao(int x, int y, int largura, int altura);
 
-/** Sets the absolute horizontal position. posicao: dots, at most 500; negative values pass.
+/** Sets the absolute horizontal position. posicao: dots, 0..500; negative values pass, but
+ *  the two bytes sent mean nothing.
  *  Returns 0; -4; -137; -44. ESC/POS: ESC $. Example: PosicaoImpressaoHorizontal(300); */
 Q7_API int Q7_CALL PosicaoImpressaoHorizontal(int posicao);
 
-/** Sets the absolute vertical position in page mode. posicao: dots, the low 16 bits are sent.
+/** Sets the absolute vertical position in page mode. posicao: dots, 0..65535; of values
+ *  outside, the two bytes sent mean nothing.
  *  Returns 0; -4; -44. ESC/POS: GS $. Example: PosicaoImpressaoVertical(50); */
 Q7_API int Q7_CALL PosicaoImpressaoVertical(int posicao);
 
@@ -386,19 +405,22 @@ Q7_API int Q7_CALL PrintText(void* handle, const char* text, int alignment, int 
 Q7_API int Q7_CALL PrintTextS(void* handle, const char* text);
 
 /** Sets the alignment. Guarded. alignment: 1 centre, 2 right. 0, left, is accepted but sends
- *  nothing: the printer stays as it is. To go back to the left call DefinePosicao(0).
+ *  nothing: the printer stays as it is. To go back to the left call DefinePosicao(0). The next
+ *  PrintText undoes it where it resets the printer (see ImpressaoTexto).
  *  Returns 1; -4; -41 alignment out of 0..2; -44 nothing written, always so for 0.
  *  ESC/POS: ESC a n.
  *  Example: SetAlign(0, 1); */
 Q7_API int Q7_CALL SetAlign(void* handle, int alignment);
 
-/** Switches emphasis. Guarded, but logged first. on: 0 or 1.
+/** Switches emphasis, until a text resets the printer (see ImpressaoTexto). Guarded, but logged
+ *  first. on: 0 or 1.
  *  Returns 0, also when nothing was written; -4; -42 any other value.
  *  ESC/POS: ESC E n.
  *  Example: SetTextBold(0, 1); */
 Q7_API int Q7_CALL SetTextBold(void* handle, int on);
 
-/** Chooses the font; ends underline, which the same command sets. Guarded, but logged first.
+/** Chooses the font, until a text resets the printer (see ImpressaoTexto); ends underline, which the
+ *  same command sets. Guarded, but logged first.
  *  font: 0 normal, 1 small.
  *  Returns 0, also when nothing was written; -4; -42 any other value.
  *  ESC/POS: ESC ! n.

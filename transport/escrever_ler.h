@@ -1,4 +1,4 @@
-// The reply reader of a session: hands commands to the connection and reads what comes back.
+// The reply reader of a session: waits for what a printer answers and takes it.
 #pragma once
 
 #include "printer_connection.h"

@@ -23,9 +23,10 @@ public:
 
     virtual bool isOpen() const = 0;
 
-    /** Takes bytes for the printer. Returns their count as a signed 16-bit number (a single write
-     *  of 32768 bytes and more wraps), Q7_ERR_NOT_SENT when nothing was taken, Q7_ERR_NOT_OPEN, or
-     *  over USB a positive system error number. */
+    /** Takes bytes for the printer. Returns their count, Q7_ERR_NOT_SENT when nothing was taken,
+     *  Q7_ERR_NOT_OPEN, or over USB a positive system error number. Serial ports and TCP count in a
+     *  signed 16-bit number: from 32768 bytes in one write on it wraps, and a wrapped count below 1
+     *  reads Q7_ERR_NOT_SENT although the bytes are sent. */
     virtual int send(const QByteArray& bytes) = 0;
 
     /** Hands over what send() took, waiting at most 250 ms. Called once when an export returns or

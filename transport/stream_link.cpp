@@ -10,7 +10,7 @@ namespace
 {
 
 constexpr int handOverLimitMs = 250;
-// Sends of one call leave together up to here; a call of many more must not fill the memory.
+// Sends of one call leave together up to here; those of a longer call begin to leave before it ends.
 constexpr int mostGathered = 65536;
 // A reply from a printer that never stops talking ends here.
 constexpr int replyLimit = 65536;
@@ -124,6 +124,7 @@ QByteArray StreamLink::readReply(QDeadlineTimer deadline, const ReplyIsWhole& is
             break;
         reply += takeWaiting();
     }
+    reply.truncate(replyLimit); // as the caller's buffer is
     return reply;
 }
 

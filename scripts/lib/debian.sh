@@ -29,6 +29,21 @@ install_packages() {
     say "installing ${missing[*]}"
     export DEBIAN_FRONTEND=noninteractive
     apt-get update -q >/dev/null 2>&1 || say "the package lists could not be refreshed"
-    apt-get install -q -y --no-install-recommends "${missing[@]}" >/dev/null ||
-        unavailable "one of the packages ${missing[*]}"
+    local log
+    log=$(mktemp)
+    if ! apt-get install -q -y --no-install-recommends "${missing[@]}" >"$log" 2>&1; then
+        tail -n 20 "$log" >&2
+        if archive_is_at_fault "$log"; then
+            unavailable "one of the packages ${missing[*]}"
+        fi
+        fail "could not install ${missing[*]}"
+    fi
+    rm -f "$log"
+}
+
+# archive_is_at_fault LOG: whether apt says there that it was not given what it asked for, and not
+# that this machine stood in the way.
+archive_is_at_fault() {
+    grep -qE '^(E|W|Err)[: ].*(Failed to fetch|Unable to (fetch|locate|find)|no installation candidate|resolv|deb-src)' \
+        "$1"
 }

@@ -9,6 +9,8 @@ if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
         $<$<COMPILE_LANGUAGE:CXX>:-Wnon-virtual-dtor>
         $<$<BOOL:${Q7_WARNINGS_AS_ERRORS}>:-Werror>)
 elseif(MSVC)
+    target_compile_definitions(q7_compile_options INTERFACE
+        NOMINMAX _CRT_NONSTDC_NO_DEPRECATE _CRT_SECURE_NO_WARNINGS)
     target_compile_options(q7_compile_options INTERFACE
         /W4 /utf-8 /permissive- $<$<BOOL:${Q7_WARNINGS_AS_ERRORS}>:/WX>)
 endif()

@@ -86,6 +86,12 @@ struct Command {
         return argsAt + index < bytes.size() ? static_cast<unsigned char>(bytes[argsAt + index])
                                              : 0U;
     }
+    /** The same of an argument that may be a number or its digit: 0 to 9 or "0" to "9". */
+    unsigned argOrDigit(std::size_t index) const
+    {
+        const unsigned value = arg(index);
+        return value >= 0x30 && value <= 0x39 ? value - 0x30 : value;
+    }
     /** Two argument bytes, low byte first. */
     unsigned arg16(std::size_t index) const { return arg(index) + 256U * arg(index + 1); }
     std::string_view data() const

@@ -1,22 +1,14 @@
 // The printer between its command buffer and its paper: commands in, printed lines out.
 #pragma once
 
-#include "code_table.h"
-#include "device.h"
-#include "glyphs.h"
-#include "page.h"
 #include "paper.h"
-#include "symbols.h"
+#include "printed_symbol.h"
+#include "text_line.h"
 
 #include <functional>
-#include <map>
-#include <optional>
 
 namespace virtual_printer
 {
-
-/** Stored graphics by their two-character key. */
-using Graphics = std::map<std::string, Bitmap>;
 
 class Typesetter
 {
@@ -34,50 +26,8 @@ public:
     void finish(std::uint64_t offset);
 
 private:
-    struct Style {
-        Font font = Font::A;
-        bool emphasised = false;
-        bool doubleStrike = false;
-        bool reverse = false;
-        int underlineDots = 0;
-        int widthFactor = 1;
-        int heightFactor = 1;
-
-        int widthDots() const { return cellOf(font).widthDots * widthFactor; }
-        int heightDots() const { return cellOf(font).heightDots * heightFactor; }
-    };
-    /** What ESC @ sets back. */
-    struct Settings {
-        Style style;
-        unsigned codeTable = 0;
-        unsigned alignment = 0;
-        int lineSpacing = 30;
-        int characterSpacing = 0;
-        int leftMargin = 0;
-        std::optional<int> printWidth;
-        std::string tabColumns;
-        int barcodeTextPosition = 0;
-        Font barcodeTextFont = Font::A;
-        int barcodeHeight = 162;
-        int barcodeModule = 3;
-        int qrModule = 3;
-        QrLevel qrLevel = QrLevel::L;
-        std::string qrData;
-        int qrAltModule = 3;
-        // Told in standard mode too, they count from the next ESC L on.
-        std::optional<Page::Area> pageArea;
-        Page::Direction pageDirection = Page::Direction::RightTopLeft;
-    };
-    struct PlacedGlyph {
-        char16_t character;
-        Style style;
-        int x;
-    };
-
-    void setStyle(const Command& command);
-    void setLayout(const Command& command);
-    void setSymbol(const Command& command);
-    void setPage(const Command& command);
+    bool set(const Command& command);
+    void pageCommand(const Command& command);
     void move(const Command& command);
     void act(const Command& command);
     void reset();
@@ -92,24 +42,21 @@ private:
     void flushIfBegun();
     void endLineBefore(std::string_view what);
     void emitLine(const Bitmap& dots, int advanceDots, const std::string& text);
-    void drawGlyph(Bitmap& strip, const PlacedGlyph& glyph, int left);
-    std::string lineText(int leftDots) const;
     int aligned(int widthDots) const;
 
-    void printBarcode(const Command& command);
-    Bitmap withText(const Symbol& barcode);
-    void printQr(std::string_view data, QrLevel level, int moduleDots);
+    void printCode(const PrintedSymbol& code);
+    void printQrCode(const Command& command);
     void printGraphic(const Command& command);
     void printRaster(const Command& command);
     enum class Foot { OnLine, Below };
-    void printSymbol(const Bitmap& dots, const std::string& caption, Foot foot);
-    void refuse(const std::string& what);
+    void printSymbol(const PrintedSymbol& symbol, Foot foot);
 
     void enterPage();
     void printPage();
     void leavePage();
     void throwAway(std::string_view who);
     void remark(std::string_view text) const { m_remarks(m_at, text); }
+    int leftMargin() const;
     int lineDots() const;
     int roomDots() const;
 
@@ -121,7 +68,7 @@ private:
 
     std::uint64_t m_at = 0;
     Settings m_settings;
-    std::vector<PlacedGlyph> m_line;
+    TextLine m_line;
     std::uint64_t m_lineBegan = 0;
     int m_pen = 0;
     bool m_fullLinePrinted = false;

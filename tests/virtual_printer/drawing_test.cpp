@@ -1,6 +1,6 @@
 #include "bytes.h"
-#include "file_job.h"
 #include "font_glyphs.h"
+#include "recorded_connection.h"
 
 #include <QImage>
 #include <gtest/gtest.h>
@@ -41,8 +41,9 @@ protected:
         m_said.clear();
         const Workshop workshop{(m_folder / "job").string(), &fontGlyphs(), std::move(graphics),
                                 [this](const std::string& line) { m_said.push_back(line); }};
-        FileJob job(workshop, *findModel(model), 1);
-        runJob(job, stream, *findModel(model));
+        RecordedConnection connection(workshop, *findModel(model), 1);
+        connection.received(stream);
+        connection.end();
     }
 
     QImage picture(const std::string& suffix = "1-1") const

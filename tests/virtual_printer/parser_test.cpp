@@ -170,12 +170,16 @@ TEST(CommandLog, GivesTheBytesOfEachConnection)
         "PARAMETROS:2,SORBE,COM3,9600]\n"
         "COMANDOSENVIADOS].....[00]\n"
         "[COMANDOSENVIADOS].....[1D5600]\n");
-    std::vector<int> badLines;
-    const std::vector<LoggedJob> jobs = readCommandLog(log, badLines);
-    ASSERT_EQ(jobs.size(), 2U);
-    EXPECT_EQ(jobs[0].model, "VOLTA");
-    EXPECT_EQ(jobs[0].bytes, bytes("1B 40 'a' E7 0A"));
-    EXPECT_EQ(jobs[1].model, "SORBE");
-    EXPECT_EQ(jobs[1].bytes, bytes("1D 56 00"));
-    EXPECT_EQ(badLines, std::vector<int>{7});
+    std::vector<std::string> models;
+    std::vector<std::string> jobs;
+    std::vector<std::uint64_t> faultyLines;
+    readCommandLog(log, {[&](const std::string& model) {
+                             models.push_back(model);
+                             jobs.emplace_back();
+                         },
+                         [&](std::string_view sent) { jobs.back().append(sent); },
+                         [&](std::uint64_t line) { faultyLines.push_back(line); }});
+    EXPECT_EQ(models, (std::vector<std::string>{"VOLTA", "SORBE"}));
+    EXPECT_EQ(jobs, (std::vector<std::string>{bytes("1B 40 'a' E7 0A"), bytes("1D 56 00")}));
+    EXPECT_EQ(faultyLines, std::vector<std::uint64_t>{7});
 }

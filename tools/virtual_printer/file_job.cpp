@@ -1,7 +1,6 @@
 #include "file_job.h"
 
 #include "command_list.h"
-#include "command_parser.h"
 
 namespace virtual_printer
 {
@@ -58,23 +57,16 @@ void FileJob::ended()
     m_typesetter.finish(m_size);
     m_receipts.end();
     m_list.close();
+    m_bytes.close();
+    if (!m_list || !m_bytes) {
+        m_workshop.say("could not write all of " + m_stem + ".bin and " + m_stem + ".list");
+    }
     std::string line = "job " + std::to_string(m_number) + " ended";
     if (m_faults > 0) {
         line += ", not understood: " + std::to_string(m_faults) + ", the first at byte " +
                 std::to_string(m_firstFault);
     }
     m_workshop.say(line);
-}
-
-void runJob(Job& job, std::string_view bytes, const Model& model)
-{
-    CommandParser parser([&job](const Command& command) { job.command(command); },
-                         model.tildeQueries ? CommandParser::TildeQueries::Yes
-                                            : CommandParser::TildeQueries::No);
-    job.received(bytes);
-    parser.feed(bytes);
-    parser.finish();
-    job.ended();
 }
 
 } // namespace virtual_printer

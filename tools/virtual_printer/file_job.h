@@ -39,7 +39,4 @@ private:
     std::uint64_t m_firstFault = 0;
 };
 
-/** Runs complete bytes through a job, as if they had come over a connection. */
-void runJob(Job& job, std::string_view bytes, const Model& model);
-
 } // namespace virtual_printer

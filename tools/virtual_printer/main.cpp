@@ -1,13 +1,12 @@
 #include "command_log.h"
-#include "file_job.h"
 #include "font_glyphs.h"
 #include "graphic_file.h"
 #include "options.h"
+#include "recorded_connection.h"
 
 #include <csignal>
 #include <filesystem>
 #include <iostream>
-#include <iterator>
 
 namespace
 {
@@ -64,28 +63,46 @@ std::ifstream openForReading(const std::string& path)
 void drawFile(const Options& options, const Workshop& workshop)
 {
     std::ifstream file = openForReading(options.input);
-    const std::string bytes((std::istreambuf_iterator<char>(file)), {});
-    FileJob job(workshop, options.server.model, 1);
-    runJob(job, bytes, options.server.model);
+    RecordedConnection connection(workshop, options.server.model, 1);
+    char buffer[65536];
+    do {
+        file.read(buffer, sizeof buffer);
+        connection.received(std::string_view(buffer, static_cast<std::size_t>(file.gcount())));
+    } while (file);
+    connection.end();
 }
 
 void drawLog(const Options& options, const Workshop& workshop)
 {
     std::ifstream file = openForReading(options.inputLog);
-    std::vector<int> badLines;
-    const std::vector<LoggedJob> jobs = readCommandLog(file, badLines);
-    for (const int line : badLines) {
-        std::cerr << options.inputLog << ':' << line << ": not hexadecimal to its end\n";
-    }
+    std::unique_ptr<RecordedConnection> connection;
+    Model model = options.server.model;
     int number = 0;
-    for (const LoggedJob& logged : jobs) {
-        const Model* named = options.modelChosen ? nullptr : findModel(logged.model);
-        Model model = named != nullptr ? *named : options.server.model;
+    const auto end = [&] {
+        if (connection) {
+            connection->end();
+            connection.reset();
+        }
+    };
+    LogEvents events;
+    events.opened = [&](const std::string& modelName) {
+        end();
+        const Model* named = options.modelChosen ? nullptr : findModel(modelName);
+        model = named != nullptr ? *named : options.server.model;
         model.powerOnCodeTable = options.powerOnCodeTable;
-        FileJob job(workshop, model, ++number);
-        runJob(job, logged.bytes, model);
-    }
-    if (jobs.empty()) {
+    };
+    events.sent = [&](std::string_view bytes) {
+        if (!connection) {
+            connection = std::make_unique<RecordedConnection>(workshop, model, ++number);
+        }
+        connection->received(bytes);
+    };
+    events.faulty = [&](std::uint64_t line) {
+        std::cerr << options.inputLog << ':' << line << ": not hexadecimal to its end\n";
+    };
+    readCommandLog(file, events);
+    end();
+    if (number == 0) {
         throw std::runtime_error(options.inputLog + ": no line COMANDOSENVIADOS");
     }
 }

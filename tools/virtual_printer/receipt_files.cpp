@@ -1,6 +1,7 @@
 #include "receipt_files.h"
 
 #include <cerrno>
+#include <stdexcept>
 #include <system_error>
 
 namespace virtual_printer
@@ -82,6 +83,9 @@ void ReceiptFiles::endReceipt(Picture::End how)
 {
     m_begun = false;
     m_text.close();
+    if (!m_text) {
+        throw std::runtime_error(m_textPath + ": could not be written whole");
+    }
     m_written(m_textPath);
     if (m_picture) {
         for (const std::string& path : m_picture->end(how)) {

@@ -340,7 +340,9 @@ void Server::answer(Connection& connection, const Command& command)
 {
     const std::string reply = replyTo(command, m_model, state());
     const Behaviour manner = behaviour();
-    if (reply.empty()) {
+    // A printer keeps few answers: who asks on and on without reading loses the later ones.
+    constexpr std::size_t mostWaiting = 4096;
+    if (reply.empty() || connection.outgoing.size() >= mostWaiting) {
         return;
     }
     const bool prompt = connection.replies++ < manner.promptReplies;

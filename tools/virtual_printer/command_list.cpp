@@ -1,7 +1,7 @@
 #include "command_list.h"
 
 #include "code_table.h"
-#include "command_parser.h"
+#include "command_table.h"
 
 #include <algorithm>
 

@@ -43,12 +43,4 @@ private:
 /** All commands of a complete stream. */
 std::vector<Command> parseAll(std::string_view bytes);
 
-/** The command's name in the printer's manual ("ESC a"), and its effect ("alignment"). Empty for
- *  text and for what is not a command. */
-struct CommandName {
-    std::string name;
-    std::string_view effect;
-};
-CommandName nameOf(const Command& command);
-
 } // namespace virtual_printer

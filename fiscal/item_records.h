@@ -1,13 +1,15 @@
 // The items of fiscal documents, as their item tables take them.
 #pragma once
 
+#include <QDomNode>
 #include <QString>
 
 namespace q7
 {
 
-/** An item of a SAT sale; texts as written in the XML, empty where the element is missing. */
-struct CfeItem {
+/** What an item of any document has; texts as written in the XML, empty where the element is
+ *  missing. */
+struct FiscalItem {
     QString number; // nItem of det
     QString code;   // from here on elements of prod
     QString description;
@@ -15,6 +17,10 @@ struct CfeItem {
     QString unit;
     QString unitPrice;
     QString amount;
+};
+
+/** An item of a SAT sale. */
+struct CfeItem : FiscalItem {
     QString discount;
     QString other;
     QString apportionedDiscount;
@@ -24,16 +30,12 @@ struct CfeItem {
     QString issqnBase;
 };
 
-/** An item of an NFC-e; texts as written in the XML, empty where the element is missing. */
-struct NfceItem {
-    QString number; // nItem of det
-    QString code;   // from here on elements of prod
+/** An item of an NFC-e. */
+struct NfceItem : FiscalItem {
     QString gtin;
-    QString description;
-    QString quantity;
-    QString unit;
-    QString unitPrice;
-    QString amount;
 };
+
+/** Fills what every item has from its det element. */
+void readCommonFields(const QDomNode& det, FiscalItem& item);
 
 } // namespace q7

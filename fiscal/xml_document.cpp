@@ -71,4 +71,9 @@ QString textOf(const QDomNode& node)
     return first.isText() ? first.nodeValue() : QString();
 }
 
+QString childText(const QDomNode& parent, const char* name)
+{
+    return textOf(parent.namedItem(QLatin1String(name)));
+}
+
 } // namespace q7

@@ -40,4 +40,7 @@ private:
  *  counts as text. */
 QString textOf(const QDomNode& node);
 
+/** textOf() the first child of this name. */
+QString childText(const QDomNode& parent, const char* name);
+
 } // namespace q7

@@ -211,8 +211,8 @@ void DanfePrinting::printPayments()
               SmallFont);
     m_printer.send(m_codeTable);
     for (const NfcePayment& payment : m_note.payments)
-        printLine(labelAndValue(payment.name, formatDecimalBR(payment.amount), m_columns),
-                  AlignLeft, SmallFont);
+        printLine(labelAndValue(payment.name, formatDecimalBR(payment.value), m_columns), AlignLeft,
+                  SmallFont);
     if (!m_note.change.isEmpty())
         print(labelAndValue("Troco R$", formatDecimalBR(m_note.change), m_columns), AlignLeft,
               SmallFont);

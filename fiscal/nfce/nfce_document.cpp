@@ -2,7 +2,6 @@
 
 #include "formatters.h"
 #include "log.h"
-#include "payment_methods.h"
 
 namespace q7
 {
@@ -28,23 +27,11 @@ QString withKeyGrouped(QString text)
     return text;
 }
 
-QString childText(const QDomNode& parent, const char* name)
-{
-    return textOf(parent.namedItem(QLatin1String(name)));
-}
-
 NfceItem readItem(const QDomNode& det)
 {
-    const QDomNode prod = det.namedItem("prod");
     NfceItem item;
-    item.code = childText(prod, "cProd");
-    item.description = childText(prod, "xProd");
-    item.quantity = childText(prod, "qCom");
-    item.unit = childText(prod, "uCom");
-    item.unitPrice = childText(prod, "vUnCom");
-    item.amount = childText(prod, "vProd");
-    item.gtin = childText(prod, "cEAN");
-    item.number = det.toElement().attribute("nItem");
+    readCommonFields(det, item);
+    item.gtin = childText(det.namedItem("prod"), "cEAN");
     return item;
 }
 
@@ -78,7 +65,7 @@ int NfceDocument::readFields()
     readRecipient();
     readItems();
     readTotals();
-    readPayments();
+    payments = readPayments(listAt("nfeProc|NFe|infNFe|pag|detPag"), "tPag", "vPag");
     change = fieldAt("pag|vTroco");
     protocolNumber = textAt("nfeProc|protNFe|infProt|nProt");
     authorisationDateTime = textAt("nfeProc|protNFe|infProt|dhRecbto");
@@ -114,14 +101,19 @@ bool NfceDocument::readConsultationBlock()
     return true;
 }
 
-void NfceDocument::readIssuer()
+QString NfceDocument::postalAddressAt(const FieldPath& group, const char* behindStreet) const
 {
     const QLatin1Char blank(' ');
+    return fieldAt(group + "|xLgr") + behindStreet + fieldAt(group + "|nro") + blank +
+           fieldAt(group + "|xCpl") + blank + fieldAt(group + "|xBairro") + blank +
+           fieldAt(group + "|xMun") + blank + fieldAt(group + "|UF");
+}
+
+void NfceDocument::readIssuer()
+{
     issuerCnpjLine = "CNPJ " + formatCnpj(fieldAt("emit|CNPJ"));
     issuerName = fieldAt("emit|xNome");
-    issuerAddress = fieldAt("emit|enderEmit|xLgr") + ", " + fieldAt("emit|enderEmit|nro") + blank +
-                    fieldAt("emit|enderEmit|xCpl") + blank + fieldAt("emit|enderEmit|xBairro") +
-                    blank + fieldAt("emit|enderEmit|xMun") + blank + fieldAt("emit|enderEmit|UF");
+    issuerAddress = postalAddressAt("emit|enderEmit", ", ");
     issuerIe = fieldAt("emit|IE");
 }
 
@@ -137,11 +129,7 @@ void NfceDocument::readRecipient()
     recipientName = fieldAt("dest|xNome");
     // The place of delivery alone, also where there is none: the recipient's own, enderDest, has
     // never been printed.
-    const QLatin1Char blank(' ');
-    recipientAddress = (fieldAt("entrega|xLgr") + blank + fieldAt("entrega|nro") + blank +
-                        fieldAt("entrega|xCpl") + blank + fieldAt("entrega|xBairro") + blank +
-                        fieldAt("entrega|xMun") + blank + fieldAt("entrega|UF"))
-                           .trimmed();
+    recipientAddress = postalAddressAt("entrega", " ").trimmed();
 }
 
 void NfceDocument::readItems()
@@ -159,17 +147,6 @@ void NfceDocument::readTotals()
     discount = fieldAt("total|ICMSTot|vDesc");
     otherCharges = fieldAt("total|ICMSTot|vOutro");
     total = fieldAt("total|ICMSTot|vNF");
-}
-
-void NfceDocument::readPayments()
-{
-    const QDomNodeList parts = listAt("nfeProc|NFe|infNFe|pag|detPag");
-    QString name;
-    for (int i = 0; i < parts.length(); ++i) {
-        const QDomNode part = parts.item(i);
-        name = paymentMethodName(childText(part, "tPag"), name);
-        payments.push_back({name, amountOf(childText(part, "vPag"))});
-    }
 }
 
 } // namespace q7

@@ -3,6 +3,7 @@
 
 #include "item_records.h"
 #include "nfce_addresses.h"
+#include "payments.h"
 #include "xml_document.h"
 
 #include <vector>
@@ -10,10 +11,7 @@
 namespace q7
 {
 
-struct NfcePayment {
-    QString name;  // of the method
-    double amount; // 0 when the field is no number
-};
+using NfcePayment = Payment;
 
 /** Read once when made, and only read from then on. Texts as written in the XML unless said
  *  otherwise, empty where the element is missing. */
@@ -64,13 +62,16 @@ private:
     /** A field below infNFe. */
     QString fieldAt(const FieldPath& path) const { return textAt("nfeProc|NFe|infNFe|" + path); }
 
+    /** The address in a group ("entrega"), its fields in one line; behindStreet stands between the
+     *  street and the number. */
+    QString postalAddressAt(const FieldPath& group, const char* behindStreet) const;
+
     int readFields();
     bool readConsultationBlock();
     void readIssuer();
     void readRecipient();
     void readItems();
     void readTotals();
-    void readPayments();
 };
 
 } // namespace q7

@@ -1,17 +1,11 @@
 #include "cfe_sale_document.h"
 
 #include "formatters.h"
-#include "payment_methods.h"
 
 namespace q7
 {
 namespace
 {
-
-QString childText(const QDomNode& parent, const char* name)
-{
-    return textOf(parent.namedItem(QLatin1String(name)));
-}
 
 CfeItem readItem(const QDomNode& det)
 {
@@ -19,13 +13,7 @@ CfeItem readItem(const QDomNode& det)
     const QDomNode imposto = det.namedItem("imposto");
     const QDomNode issqn = imposto.namedItem("ISSQN");
     CfeItem item;
-    item.number = det.toElement().attribute("nItem");
-    item.code = childText(prod, "cProd");
-    item.description = childText(prod, "xProd");
-    item.quantity = childText(prod, "qCom");
-    item.unit = childText(prod, "uCom");
-    item.unitPrice = childText(prod, "vUnCom");
-    item.amount = childText(prod, "vProd");
+    readCommonFields(det, item);
     item.discount = childText(prod, "vDesc");
     item.other = childText(prod, "vOutro");
     item.apportionedDiscount = childText(prod, "vRatDesc");
@@ -62,7 +50,7 @@ CfeSaleDocument::CfeSaleDocument(const char* xml) : CfeDocument(xml, "CFe")
     complementaryInfo = fieldAt("infAdic|infCpl");
     taxTotal12741 = fieldAt("total|vCFeLei12741");
     readItems();
-    readPayments();
+    payments = readPayments(listAt("CFe|infCFe|pgto|MP"), "cMP", "vMP");
 }
 
 void CfeSaleDocument::readItems()
@@ -71,17 +59,6 @@ void CfeSaleDocument::readItems()
     items.reserve(static_cast<std::size_t>(dets.length()));
     for (int i = 0; i < dets.length(); ++i)
         items.push_back(readItem(dets.item(i)));
-}
-
-void CfeSaleDocument::readPayments()
-{
-    const QDomNodeList methods = listAt("CFe|infCFe|pgto|MP");
-    QString name;
-    for (int i = 0; i < methods.length(); ++i) {
-        const QDomNode method = methods.item(i);
-        name = paymentMethodName(childText(method, "cMP"), name);
-        payments.push_back({name, amountOf(childText(method, "vMP"))});
-    }
 }
 
 } // namespace q7

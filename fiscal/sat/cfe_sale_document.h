@@ -3,16 +3,14 @@
 
 #include "cfe_document.h"
 #include "item_records.h"
+#include "payments.h"
 
 #include <vector>
 
 namespace q7
 {
 
-struct CfePayment {
-    QString name;
-    double value; // 0 when the field is no number
-};
+using CfePayment = Payment;
 
 class CfeSaleDocument : public CfeDocument
 {
@@ -42,7 +40,6 @@ public:
 
 private:
     void readItems();
-    void readPayments();
 };
 
 } // namespace q7

@@ -1,4 +1,7 @@
-#include "payment_methods.h"
+#include "payments.h"
+
+#include "formatters.h"
+#include "xml_document.h"
 
 namespace q7
 {
@@ -17,9 +20,7 @@ constexpr PaymentMethod paymentMethods[] = {
     {99, "Outros"},
 };
 
-} // namespace
-
-QString paymentMethodName(const QString& code, const QString& previousName)
+QString methodName(const QString& code, const QString& previousName)
 {
     const int number = code.toInt();
     for (const PaymentMethod& method : paymentMethods) {
@@ -27,6 +28,21 @@ QString paymentMethodName(const QString& code, const QString& previousName)
             return QString::fromUtf8(method.name);
     }
     return previousName;
+}
+
+} // namespace
+
+std::vector<Payment> readPayments(const QDomNodeList& elements, const char* codeName,
+                                  const char* valueName)
+{
+    std::vector<Payment> payments;
+    QString name;
+    for (int i = 0; i < elements.length(); ++i) {
+        const QDomNode element = elements.item(i);
+        name = methodName(childText(element, codeName), name);
+        payments.push_back({name, amountOf(childText(element, valueName))});
+    }
+    return payments;
 }
 
 } // namespace q7

@@ -6,12 +6,14 @@
 #include <stdio.h>
 #include <stdlib.h>
 #include <string.h>
+#include <windows.h>
+
 #include <tlhelp32.h>
 
 static DWORD WINAPI printFromSecondThread(void* library)
 {
-    USE_EXPORT((HMODULE)library, ImpressaoTexto);
-    USE_EXPORT((HMODULE)library, StatusImpressora);
+    USE_EXPORT(library, ImpressaoTexto);
+    USE_EXPORT(library, StatusImpressora);
     if (pImpressaoTexto("segunda thread\n", 0, 0, 0) < 1)
         return 0;
     return pStatusImpressora(3) == 5; /* paper present */
@@ -20,7 +22,7 @@ static DWORD WINAPI printFromSecondThread(void* library)
 /* One life of the library. Returns what went wrong, or null. */
 static const char* useOnce(const char* path, int port)
 {
-    HMODULE library = loadLibrary(path);
+    void* library = loadLibrary(path);
     USE_EXPORT(library, GetVersaoDLL);
     USE_EXPORT(library, AbreConexaoImpressora);
     USE_EXPORT(library, ImpressaoTexto);
@@ -32,7 +34,7 @@ static const char* useOnce(const char* path, int port)
         return "AbreConexaoImpressora";
     if (pImpressaoTexto("primeira thread\n", 0, 0, 0) < 1)
         return "ImpressaoTexto";
-    HANDLE thread = CreateThread(NULL, 0, printFromSecondThread, (void*)library, 0, NULL);
+    HANDLE thread = CreateThread(NULL, 0, printFromSecondThread, library, 0, NULL);
     DWORD printed = 0;
     WaitForSingleObject(thread, INFINITE);
     GetExitCodeThread(thread, &printed);

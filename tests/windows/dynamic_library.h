@@ -2,7 +2,7 @@
 #ifndef Q7_TESTS_WINDOWS_DYNAMIC_LIBRARY_H
 #define Q7_TESTS_WINDOWS_DYNAMIC_LIBRARY_H
 
-typedef void (*AnyFunction)(void);
+#include "host.h"
 
 /** Returns null when the library cannot be loaded. */
 void* openLibrary(const char* path);

@@ -10,7 +10,7 @@ int main(int argc, char** argv)
 {
     if (argc != 3)
         return 2;
-    HMODULE library = loadLibrary(argv[1]);
+    void* library = loadLibrary(argv[1]);
     USE_EXPORT(library, AbreConexaoImpressora);
     USE_EXPORT(library, ImpressaoTexto);
 

@@ -1,5 +1,7 @@
 #include "host.h"
 
+#include "dynamic_library.h"
+
 #include <stdarg.h>
 #include <stdio.h>
 #include <stdlib.h>
@@ -28,22 +30,18 @@ int exitStatus(void)
     return failures != 0;
 }
 
-HMODULE loadLibrary(const char* path)
+void* loadLibrary(const char* path)
 {
-    HMODULE library = LoadLibraryA(path);
-    if (library == NULL) {
-        check("load", 0, "%s: error %lu", path, GetLastError());
+    void* library = openLibrary(path);
+    if (library == NULL && !check("load", 0, "%s", path))
         exit(1);
-    }
     return library;
 }
 
-FARPROC exportOf(HMODULE library, const char* name)
+AnyFunction exportOf(void* library, const char* name)
 {
-    FARPROC address = GetProcAddress(library, name);
-    if (address == NULL) {
-        check("export", 0, "%s is missing", name);
+    const AnyFunction function = findFunction(library, name);
+    if (function == NULL && !check("export", 0, "%s is missing", name))
         exit(1);
-    }
-    return address;
+    return function;
 }

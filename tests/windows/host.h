@@ -1,8 +1,8 @@
-/* What the test programs of this folder share: a count of checks, one line each. */
+/* What the test programs of this folder share: the library at run time, and a count of checks. */
 #ifndef Q7_TESTS_WINDOWS_HOST_H
 #define Q7_TESTS_WINDOWS_HOST_H
 
-#include <windows.h>
+typedef void (*AnyFunction)(void);
 
 /** Prints "ok NAME" or "FAILED NAME: ..." (printf form) and counts the failure. Returns passed. */
 int check(const char* name, int passed, const char* detail, ...);
@@ -11,13 +11,15 @@ int check(const char* name, int passed, const char* detail, ...);
 int exitStatus(void);
 
 /** Loads the library or ends the program. */
-HMODULE loadLibrary(const char* path);
+void* loadLibrary(const char* path);
 
 /** The address of an export, or ends the program. */
-FARPROC exportOf(HMODULE library, const char* name);
+AnyFunction exportOf(void* library, const char* name);
 
-/** A local pointer to an export, typed as the public header declares it. */
-#define USE_EXPORT(library, name)                                                                  \
-    __typeof__(&name) p##name = (__typeof__(&name))(void (*)(void))exportOf(library, #name)
+/** An export, typed as the public header declares it. */
+#define TYPED_EXPORT(library, name) ((__typeof__(&name))exportOf(library, #name))
+
+/** A local pointer to an export. */
+#define USE_EXPORT(library, name) __typeof__(&name) p##name = TYPED_EXPORT(library, name)
 
 #endif

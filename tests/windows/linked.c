@@ -3,6 +3,7 @@
 #include "q7_impressora.h"
 
 #include <string.h>
+#include <windows.h>
 
 int main(void)
 {

@@ -1,7 +1,7 @@
 /* Makes the same calls on Windows and on Linux and prints their results, one a line:
  *   print_calls LIBRARY KIND ADDRESS NUMBER [CF-e file [NFC-e file]]
  * The printer is a VANTA. What it receives must be the same from both. */
-#include "dynamic_library.h"
+#include "host.h"
 #include "q7_impressora.h"
 
 #include <stdio.h>
@@ -9,18 +9,8 @@
 
 static void* library;
 
-static AnyFunction need(const char* name)
-{
-    AnyFunction function = findFunction(library, name);
-    if (function == NULL) {
-        printf("%s is missing\n", name);
-        exit(1);
-    }
-    return function;
-}
-
 /* Calls an export with the type that the public header gives it. */
-#define CALL(name, ...) report(#name, ((__typeof__(&name))need(#name))(__VA_ARGS__))
+#define CALL(name, ...) report(#name, TYPED_EXPORT(library, name)(__VA_ARGS__))
 
 static int report(const char* name, int result)
 {
@@ -75,7 +65,7 @@ static void askAndDrive(void)
         CALL(StatusImpressora, kind);
     CALL(DirectIO, "\x1D\x49\x43", 3, reply, &size);
     printf("%u bytes\n", size);
-    printf("IdImpressora %s\n", ((__typeof__(&IdImpressora))need("IdImpressora"))(4));
+    printf("IdImpressora %s\n", TYPED_EXPORT(library, IdImpressora)(4));
     CALL(AbreGaveta, 1, 50, 200);
     CALL(SinalSonoro, 3, 2, 2);
     CALL(Corte, 4);
@@ -96,11 +86,7 @@ int main(int argc, char** argv)
 {
     if (argc < 5)
         return 2;
-    library = openLibrary(argv[1]);
-    if (library == NULL) {
-        printf("%s cannot be loaded\n", argv[1]);
-        return 1;
-    }
+    library = loadLibrary(argv[1]);
     if (CALL(AbreConexaoImpressora, atoi(argv[2]), "vanta", argv[3], atoi(argv[4])) != 0)
         return 0;
     printTexts();

@@ -6,7 +6,7 @@
 #include <stdio.h>
 
 /* Returns the bytes that the stack pointer is off after the call. */
-static int stackErrorOf(FARPROC function, int argumentBytes, int misalignment)
+static int stackErrorOf(AnyFunction function, int argumentBytes, int misalignment)
 {
     int expected;
     int actual;
@@ -36,7 +36,7 @@ int main(int argc, char** argv)
 {
     if (argc != 3)
         return 2;
-    HMODULE library = loadLibrary(argv[1]);
+    void* library = loadLibrary(argv[1]);
     FILE* list = fopen(argv[2], "r");
     if (list == NULL)
         return 2;

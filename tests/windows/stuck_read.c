@@ -6,6 +6,8 @@
 
 #include <stdio.h>
 #include <wchar.h>
+#include <windows.h>
+
 #include <winternl.h>
 
 #define PIPE L"q7_stuck_printer"
@@ -118,7 +120,7 @@ int main(int argc, char** argv)
     Opening first;
     Opening second;
     offer(&first);
-    HMODULE library = loadLibrary(argv[1]);
+    void* library = loadLibrary(argv[1]);
     USE_EXPORT(library, AbreConexaoImpressora);
     USE_EXPORT(library, StatusImpressora);
     USE_EXPORT(library, ImpressaoTexto);

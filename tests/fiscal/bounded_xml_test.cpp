@@ -48,10 +48,6 @@ struct Row {
     QByteArray text;
     bool isRead;
 };
-std::ostream& operator<<(std::ostream& out, const Row& row)
-{
-    return out << row.name;
-}
 
 class BoundedXml : public testing::TestWithParam<Row>
 {
@@ -82,14 +78,10 @@ TEST_P(BoundedXml, CostsLittleAndPrintsNothing)
 }
 
 const Row rows[] = {
-    {"Empty", "", false},
     {"Binary", numbered("\xff\x01#\xc3<\xfe", 1, 20000), false},
     {"NotUtf8", note("", "\xc7\xe3"), true},
-    {"TwoFields", note("", "<f>y</f>"), true},
-    {"Unclosed", "<r><f>x</f>", false},
     {"ElementsNestedToTheLimit", note("", times("<d>", 255) + times("</d>", 255)), true},
     {"ElementsNestedBeyondIt", note("", times("<d>", 256) + times("</d>", 256)), false},
-    {"ElementsNestedDeep", "<r><f>x</f>" + times("<d>", 200000), false},
     {"ParenthesesNestedDeep",
      note("<!ELEMENT d " + times("(", 200000) + "d" + times(")", 200000) + ">", ""), false},
     {"ParenthesesInParameterEntity",
@@ -97,13 +89,9 @@ const Row rows[] = {
     {"SmallEntities", note("<!ENTITY e 'um'><!ENTITY g '&e; dois'>", "&g;<d a='&e;'/>"), true},
     {"EntityToTheLimit", note(block(), times("&e;", 16)), true},
     {"EntityBeyondIt", note(block(), times("&e;", 16) + "<d a='&e;'/>"), false},
-    {"EntityManyTimes", note(block(), times("&e;", 300000)), false},
     {"EntityManyTimesInAttribute", note(block(), "<d a='" + times("&e;", 300000) + "'/>"), false},
     {"EntityManyTimesAsDefault",
      note(block() + "<!ATTLIST d a CDATA '" + times("&e;", 300000) + "'>", ""), false},
-    {"EntitiesNested",
-     note("<!ENTITY e0 'lol'>" + numbered("<!ENTITY e# '&e#-;&e#-;&e#-;&e#-;'>", 1, 15), "&e15;"),
-     false},
     {"EntitiesNestedDeclaredLater",
      note(numbered("<!ENTITY e# '&e#-;&e#-;&e#-;&e#-;&e#-;'>", 1, 15) + "<!ENTITY e0 'lol'>",
           "&e15;"),
@@ -125,8 +113,6 @@ const Row rows[] = {
           ""),
      false},
     {"ManyEntities", note(numbered("<!ENTITY e# 'x'>", 1, 40000), ""), false},
-    {"ManyReferencesInOneEntity",
-     note("<!ENTITY e 'x'><!ENTITY g '" + times("&e;", 20000) + "'><!ENTITY h 'x'>", "&g;"), false},
 };
 
 INSTANTIATE_TEST_SUITE_P(Text, BoundedXml, testing::ValuesIn(rows),

@@ -1,5 +1,6 @@
-// The states' addresses, against the published list where it is at hand.
+// The states' addresses and abbreviations, against the published list where it is at hand.
 #include "nfce_addresses.h"
+#include "state_table.h"
 
 #include <fstream>
 #include <gtest/gtest.h>
@@ -46,14 +47,17 @@ TEST(NfceAddresses, AreThePublishedOnes)
         };
         check(Kind::Consultation, fields[2], fields[3]);
         check(Kind::QrCode, fields[4], fields[5]);
+        EXPECT_EQ(q7::stateAbbreviation(std::stoi(fields[0])).toStdString(), fields[1]);
     }
     EXPECT_EQ(states, 27);
 }
 
 TEST(NfceAddresses, OfNoStateIsEmpty)
 {
-    for (const int number : {-1, 0, 10, 34, 54, 99})
+    for (const int number : {-1, 0, 10, 34, 54, 99}) {
         EXPECT_EQ(address(number, Kind::Consultation, true), "");
+        EXPECT_EQ(q7::stateAbbreviation(number), "");
+    }
 }
 
 } // namespace

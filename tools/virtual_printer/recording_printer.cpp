@@ -21,6 +21,10 @@ public:
     {
         change([&command](Record& record) { record.commands.push_back(command); });
     }
+    void sent(std::string_view bytes) override
+    {
+        change([bytes](Record& record) { record.sent.append(bytes); });
+    }
     void ended() override
     {
         change([](Record& record) { record.ended = true; });

@@ -16,6 +16,7 @@ public:
     /** What came over one connection. */
     struct Record {
         std::string bytes;
+        std::string sent; // answers and unasked status bytes
         std::vector<Command> commands;
         std::size_t reads = 0; // pieces in which the bytes were taken from the link
         std::chrono::steady_clock::time_point firstByte;

@@ -108,10 +108,15 @@ void Server::listenOnTcp(const ServerSettings& settings)
     m_listener = checked(socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0), "socket");
     const int on = 1;
     setsockopt(m_listener, SOL_SOCKET, SO_REUSEADDR, &on, sizeof on);
-    if (settings.behaviour.readBytesPerSecond > 0) {
+    if (settings.behaviour.readBytesPerSecond > 0 ||
+        settings.behaviour.readBytesAtMost < UINT64_MAX) {
         // The sender has to feel the slow reader, so the system may hold back little for it.
         const int bufferBytes = 4096;
         setsockopt(m_listener, SOL_SOCKET, SO_RCVBUF, &bufferBytes, sizeof bufferBytes);
+        // Nor may the sender's system: its buffer grows with the segments.
+        const int ethernetSegmentBytes = 1460;
+        setsockopt(m_listener, IPPROTO_TCP, TCP_MAXSEG, &ethernetSegmentBytes,
+                   sizeof ethernetSegmentBytes);
     }
     sockaddr_in address{};
     address.sin_family = AF_INET;
@@ -261,6 +266,11 @@ void Server::begin(Connection& connection)
         m_model.tildeQueries ? CommandParser::TildeQueries::Yes : CommandParser::TildeQueries::No);
     connection.received = 0;
     connection.replies = 0;
+    awaitUnasked(connection);
+}
+
+void Server::awaitUnasked(Connection& connection)
+{
     const int periodMs = behaviour().unaskedStatusMs;
     connection.nextUnasked =
         periodMs > 0 ? Clock::now() + milliseconds(periodMs) : Clock::time_point::max();
@@ -289,16 +299,24 @@ Server::Reading Server::readFrom(Connection& connection)
     const Behaviour manner = behaviour();
     char buffer[65536];
     std::size_t wanted = sizeof buffer;
-    if (manner.readBytesPerSecond > 0) {
+    const bool slow = manner.readBytesPerSecond > 0 && connection.received < manner.slowBytes;
+    if (slow) {
         constexpr int readsPerSecond = 50;
         wanted = static_cast<std::size_t>(
             std::clamp(manner.readBytesPerSecond / readsPerSecond, 1, 65536));
     }
+    const auto stopAt = [&](std::uint64_t bytes) {
+        const std::uint64_t left = bytes - std::min(bytes, connection.received);
+        wanted = static_cast<std::size_t>(std::min<std::uint64_t>(wanted, left));
+    };
+    stopAt(manner.readBytesAtMost);
+    if (wanted == 0) {
+        connection.nextRead = Clock::time_point::max();
+        return Reading::Open;
+    }
     const bool exits = manner.exit != Behaviour::Exit::Stay;
     if (exits) {
-        const std::uint64_t left =
-            manner.exitAfterBytes - std::min(manner.exitAfterBytes, connection.received);
-        wanted = static_cast<std::size_t>(std::min<std::uint64_t>(wanted, left));
+        stopAt(manner.exitAfterBytes);
     }
 
     const ssize_t count = wanted > 0 ? read(connection.fd, buffer, wanted) : 0;
@@ -315,7 +333,7 @@ Server::Reading Server::readFrom(Connection& connection)
         begin(connection);
     }
     const auto size = static_cast<std::size_t>(count);
-    if (manner.readBytesPerSecond > 0) {
+    if (slow) {
         connection.nextRead =
             Clock::now() + std::chrono::microseconds(
                                size * 1'000'000 / static_cast<unsigned>(manner.readBytesPerSecond));
@@ -324,11 +342,17 @@ Server::Reading Server::readFrom(Connection& connection)
     const std::string_view bytes(buffer, size);
     connection.job->received(bytes);
     connection.parser->feed(bytes);
+    if (connection.nextUnasked == Clock::time_point::max()) {
+        awaitUnasked(connection); // the behaviour may have changed
+    }
 
     if (exits && connection.received >= manner.exitAfterBytes) {
         if (manner.exit == Behaviour::Exit::Reset) {
             const linger atOnce{1, 0};
             setsockopt(connection.fd, SOL_SOCKET, SO_LINGER, &atOnce, sizeof atOnce);
+        } else {
+            // Ends the connection also where unread bytes would have the close reset it.
+            shutdown(connection.fd, SHUT_WR);
         }
         connection.gone = true;
         return Reading::Ended;
@@ -338,8 +362,10 @@ Server::Reading Server::readFrom(Connection& connection)
 
 void Server::answer(Connection& connection, const Command& command)
 {
-    const std::string reply = replyTo(command, m_model, state());
     const Behaviour manner = behaviour();
+    const auto fixed = manner.answers.find(command.bytes);
+    const std::string reply =
+        fixed != manner.answers.end() ? fixed->second : replyTo(command, m_model, state());
     // A printer keeps few answers: who asks on and on without reading loses the later ones.
     constexpr std::size_t mostWaiting = 4096;
     if (reply.empty() || connection.outgoing.size() >= mostWaiting) {
@@ -371,7 +397,9 @@ void Server::sendDue(Connection& connection)
         const ssize_t count = connection.serial
                                   ? write(connection.fd, bytes.data(), bytes.size())
                                   : send(connection.fd, bytes.data(), bytes.size(), MSG_NOSIGNAL);
-        static_cast<void>(count);
+        if (count > 0) {
+            connection.job->sent({bytes.data(), static_cast<std::size_t>(count)});
+        }
         connection.outgoing.pop_front();
     }
 }

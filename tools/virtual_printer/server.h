@@ -7,6 +7,7 @@
 #include <chrono>
 #include <functional>
 #include <list>
+#include <map>
 #include <memory>
 #include <mutex>
 
@@ -15,12 +16,16 @@ namespace virtual_printer
 
 /** How a printer misbehaves; the defaults are good behaviour. */
 struct Behaviour {
-    bool silent = false;        // answers no query
-    int lateMs = 0;             // answers that long after the query
-    int byteGapMs = 0;          // time between two bytes of an answer
-    int promptReplies = 0;      // so many answers per connection come as they should
-    int unaskedStatusMs = 0;    // period of unasked status bytes; 0 for none
-    int readBytesPerSecond = 0; // 0 for as fast as they come
+    bool silent = false;     // answers no query
+    int lateMs = 0;          // answers that long after the query
+    int byteGapMs = 0;       // time between two bytes of an answer
+    int promptReplies = 0;   // so many answers per connection come as they should
+    int unaskedStatusMs = 0; // period of unasked status bytes; 0 for none
+    std::map<std::string, std::string> answers; // by query, before the model's; may be empty
+
+    int readBytesPerSecond = 0;                 // 0 for as fast as they come
+    std::uint64_t slowBytes = UINT64_MAX;       // so many of a connection at that speed
+    std::uint64_t readBytesAtMost = UINT64_MAX; // of a connection; then it reads no more
 
     enum class Exit { Stay, Reset, Close };
     Exit exit = Exit::Stay;           // how the printer vanishes
@@ -38,6 +43,8 @@ public:
 
     virtual void received(std::string_view bytes) = 0;
     virtual void command(const Command& command) = 0;
+    /** An answer, or a byte of it, or an unasked status left. */
+    virtual void sent(std::string_view /*bytes*/) {}
     /** The connection is gone; every command has been handed over. */
     virtual void ended() = 0;
 };
@@ -91,6 +98,7 @@ private:
     void sendDue(Connection& connection);
     void sendUnasked(Connection& connection);
     void begin(Connection& connection);
+    void awaitUnasked(Connection& connection);
     void end(Connection& connection);
     Behaviour behaviour() const;
     State state() const;

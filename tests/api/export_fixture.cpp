@@ -31,18 +31,20 @@ std::string bytesOf(const Transcript& transcript)
 
 void ExportTest::openTcp(const PrinterScript& script)
 {
-    m_taken = 0;
-    tcp = std::make_unique<TcpPrinter>(script);
-    ASSERT_EQ(0, AbreConexaoImpressora(3, script.model.c_str(), "127.0.0.1", tcp->port()));
-    takeSent();
-    data.takeLog();
+    farEnd = std::make_unique<TcpPrinter>(script);
+    open(3, script, "127.0.0.1", farEnd->port());
 }
 
 void ExportTest::openSerial(const PrinterScript& script)
 {
+    farEnd = std::make_unique<PtyPrinter>(script);
+    open(2, script, farEnd->serialPath(), 115200);
+}
+
+void ExportTest::open(int kind, const PrinterScript& script, const std::string& address, int number)
+{
     m_taken = 0;
-    serial = std::make_unique<PtyPrinter>(script);
-    ASSERT_EQ(0, AbreConexaoImpressora(2, script.model.c_str(), serial->device().c_str(), 115200));
+    ASSERT_EQ(0, AbreConexaoImpressora(kind, script.model.c_str(), address.c_str(), number));
     takeSent();
     data.takeLog();
 }
@@ -51,12 +53,12 @@ std::string ExportTest::takeSent()
 {
     const std::string mark = "\x07<mark>\x07";
     DirectIO(mark.data(), static_cast<int>(mark.size()), nullptr, nullptr);
-    FakePrinter& printer = tcp ? static_cast<FakePrinter&>(*tcp) : *serial;
-    const auto hasMark = [&](const std::vector<Received>& all) {
-        return !all.empty() && all.back().bytes.find(mark, m_taken) != std::string::npos;
+    std::string bytes;
+    const auto hasMark = [&](const FakePrinter::Records& all) {
+        bytes = all.empty() ? std::string() : all.back().bytes.substr(m_taken);
+        return bytes.find(mark) != std::string::npos;
     };
-    EXPECT_TRUE(printer.waitUntil(hasMark)) << "the printer never got the mark";
-    const std::string bytes = printer.bytes().substr(m_taken);
+    EXPECT_TRUE(farEnd->waitUntil(hasMark)) << "the printer never got the mark";
     m_taken += bytes.size();
     return bytes.substr(0, bytes.find(mark));
 }

@@ -28,17 +28,18 @@ protected:
     ~ExportTest() override { FechaConexaoImpressora(); }
 
     /** Opens a connection to a new printer, behind which the log and the bytes begin anew. */
-    void openTcp(const PrinterScript& script = {});
-    void openSerial(const PrinterScript& script = {});
+    void openTcp(const PrinterScript& script = PrinterScript());
+    void openSerial(const PrinterScript& script = PrinterScript());
 
     /** The bytes that the printer received since the last call. Sends a mark behind them. */
     std::string takeSent();
 
     DataFolder data;
-    std::unique_ptr<TcpPrinter> tcp;
-    std::unique_ptr<PtyPrinter> serial;
+    std::unique_ptr<FakePrinter> farEnd;
 
 private:
+    void open(int kind, const PrinterScript& script, const std::string& address, int number);
+
     std::size_t m_taken = 0;
 };
 

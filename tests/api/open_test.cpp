@@ -43,6 +43,42 @@ template <typename Call> double millisecondsOf(Call call)
     return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
 }
 
+const std::string zero(1, '\0');
+
+constexpr int refusingPort = 1; // of 127.0.0.1: nobody listens there
+
+/** A port of 127.0.0.1 that lets connections neither succeed nor fail: the queue of those that nobody
+ *  accepts is full. */
+class DeafPort
+{
+public:
+    DeafPort()
+    {
+        socklen_t size = sizeof m_address;
+        auto* address = reinterpret_cast<sockaddr*>(&m_address);
+        m_address.sin_family = AF_INET;
+        m_address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+        for (int& descriptor : m_sockets)
+            descriptor = socket(AF_INET, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0);
+        EXPECT_EQ(0, bind(m_sockets[0], address, size));
+        EXPECT_EQ(0, listen(m_sockets[0], 0));
+        EXPECT_EQ(0, getsockname(m_sockets[0], address, &size));
+        for (int i = 1; i < 5; ++i)
+            connect(m_sockets[i], address, size);
+    }
+    ~DeafPort()
+    {
+        for (const int descriptor : m_sockets)
+            close(descriptor);
+    }
+
+    int port() const { return ntohs(m_address.sin_port); }
+
+private:
+    sockaddr_in m_address = {};
+    int m_sockets[5];
+};
+
 class Open : public ExportTest
 {
 };
@@ -85,18 +121,19 @@ TEST_F(Open, NullsReadAsEmpty)
 TEST_F(Open, AnUnknownModelPassesBehindASuccessOnly)
 {
     PrinterScript script;
-    script.model = "SORBE XPTO";
+    script.model = "SORBE";
+    script.answers[hex("1D 49 43")] = "_SORBE XPTO" + zero;
     TcpPrinter printer(script);
     const auto open = [&](const char* model) { return openAt("127.0.0.1", printer.port(), model); };
 
     EXPECT_EQ(0, open("XPTO")); // the first call of the process
     EXPECT_EQ(0, open("SORBE"));
     EXPECT_EQ(1, ImpressaoTexto("x", 0, 0, 0)); // leaves a count
-    const std::size_t connections = printer.received().size();
+    const std::size_t connections = printer.records().size();
     data.takeLog();
     EXPECT_EQ(-3, open("XPTO"));
     EXPECT_EQ("FUNCAO AbreConexaoImpressora. RETORNO:-3", data.takeLog().back());
-    EXPECT_EQ(connections, printer.received().size());
+    EXPECT_EQ(connections, printer.records().size());
     EXPECT_EQ(0, open("SORBE"));
     EXPECT_EQ(0, FechaConexaoImpressora()); // leaves 0
     EXPECT_EQ(0, open("xpto"));
@@ -108,7 +145,7 @@ TEST_F(Open, AnUnknownModelPassesBehindASuccessOnly)
 
     EXPECT_EQ(-3, open("VANTA")); // the printer is another: a failure
     EXPECT_EQ(-3, open("XPTO"));
-    EXPECT_EQ(0, openAt("127.0.0.1", refusingPort(), "VANTA")); // refused reads as success
+    EXPECT_EQ(0, openAt("127.0.0.1", refusingPort)); // refused reads as success
     EXPECT_EQ(0, open("XPTO"));
 }
 
@@ -116,7 +153,8 @@ TEST_F(Open, SerialTakesNineSpeeds)
 {
     PtyPrinter printer;
     for (const int speed : {300, 1200, 2400, 4800, 9600, 19200, 38400, 57600, 115200}) {
-        EXPECT_EQ(0, AbreConexaoImpressora(2, "VANTA", printer.device().c_str(), speed)) << speed;
+        EXPECT_EQ(0, AbreConexaoImpressora(2, "VANTA", printer.serialPath().c_str(), speed))
+            << speed;
         EXPECT_EQ(0, FechaConexaoImpressora());
     }
     data.takeLog();
@@ -134,7 +172,7 @@ TEST_F(Open, SerialTakesNineSpeeds)
 TEST_F(Open, SerialPortsAreFoundInWhateverCase)
 {
     PtyPrinter printer;
-    const std::string number = printer.device().substr(printer.device().rfind('/') + 1);
+    const std::string number = printer.serialPath().substr(printer.serialPath().rfind('/') + 1);
     for (const std::string& name : {"/dev/pts/" + number, "/DEV/PTS/" + number, "PTS/" + number}) {
         EXPECT_EQ(0, AbreConexaoImpressora(2, "VANTA", name.c_str(), 9600)) << name;
         EXPECT_EQ(0, FechaConexaoImpressora());
@@ -152,10 +190,9 @@ TEST_F(Open, UsbWithoutPrinterIsMinus21)
 
 TEST_F(Open, ARefusedConnectionReadsAsSuccess)
 {
-    const int port = refusingPort();
-    EXPECT_EQ(0, openAt("127.0.0.1", port));
-    EXPECT_EQ(logOf({"AbreConexaoImpressora. PARAMETROS:3,VANTA,127.0.0.1," + std::to_string(port),
-                     "Connection refused", "AbreConexaoImpressora. RETORNO:0"}),
+    EXPECT_EQ(0, openAt("127.0.0.1", refusingPort));
+    EXPECT_EQ(logOf({"AbreConexaoImpressora. PARAMETROS:3,VANTA,127.0.0.1,1", "Connection refused",
+                     "AbreConexaoImpressora. RETORNO:0"}),
               data.takeLog());
     EXPECT_EQ(-4, ImpressaoTexto("x", 0, 0, 0));
     EXPECT_EQ(-4, StatusImpressora(2));
@@ -205,9 +242,9 @@ TEST_F(Open, ASecondOpenAbandonsTheFirst)
     EXPECT_EQ(4, ImpressaoTexto("two\n", 0, 0, 0));
     EXPECT_TRUE(sameBytes(hex("1B 40 1B 74 10") + "two\n", takeSent()));
     EXPECT_EQ(0, FechaConexaoImpressora());
-    EXPECT_NE("", tcp->waitForClose());
+    EXPECT_NE("", farEnd->waitForClose());
     EXPECT_TRUE(sameBytes(hex("1D 49 43  1B 40 1B 74 10") + "one\n", first.waitForBytes(12)));
-    EXPECT_FALSE(first.received().back().isClosed);
+    EXPECT_FALSE(first.latest().ended);
 }
 
 TEST_F(Open, AFailedOpenClosesItsLinkAndForgetsTheEarlierOne)
@@ -240,9 +277,10 @@ TEST_P(ModelCheck, OnSerialAndTcp)
     const ModelReply& row = GetParam();
     const std::string query = std::string(row.model) == "TESMO" ? "~HI" : hex("1D 49 43");
     PrinterScript script;
+    script.model = query == "~HI" ? "TESMO" : "VANTA";
     script.answers[query] = row.reply;
-    script.replyDelayMs = row.delayMs;
-    script.replyByteGapMs = row.byteGapMs;
+    script.lateMs = row.delayMs;
+    script.byteGapMs = row.byteGapMs;
     TcpPrinter network(script);
     PtyPrinter line(script);
 
@@ -252,7 +290,7 @@ TEST_P(ModelCheck, OnSerialAndTcp)
         const double took = millisecondsOf([&] {
             result = printer == &network
                          ? openAt("127.0.0.1", network.port(), row.model)
-                         : AbreConexaoImpressora(2, row.model, line.device().c_str(), 9600);
+                         : AbreConexaoImpressora(2, row.model, line.serialPath().c_str(), 9600);
         });
         EXPECT_EQ(row.result, result);
         EXPECT_LT(took, 1500); // 750 ms for the reply
@@ -260,8 +298,6 @@ TEST_P(ModelCheck, OnSerialAndTcp)
         EXPECT_TRUE(sameBytes(query, printer->waitForClose()));
     }
 }
-
-const std::string zero(1, '\0');
 
 const ModelReply modelReplies[] = {
     {"Named", "VANTA", "_VANTA" + zero, 0},

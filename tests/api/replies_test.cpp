@@ -44,7 +44,7 @@ TEST_F(Replies, StatesOfASerialPrinter)
                 {3, "08", 6}, {3, "20", 7}, {3, "40", 7}, {3, "6C", 7}, {3, "00", 5}};
     openSerial();
     for (const auto& row : rows) {
-        serial->change(
+        farEnd->change(
             [&](PrinterScript& script) { script.answers[statusQuery(row.kind)] = hex(row.reply); });
         EXPECT_EQ(row.state, StatusImpressora(row.kind)) << row.kind << ' ' << row.reply;
         EXPECT_TRUE(sameBytes(hex("1D 61 00") + statusQuery(row.kind), takeSent()));
@@ -71,15 +71,15 @@ TEST_F(Replies, StatesOfATcpPrinter)
         {2, "04", 3}, {3, "0C", 6}, {4, "00 00 20", 9}, {4, "FF FF DF FF", 8}, {4, "20 20", 8}};
     openTcp();
     for (const auto& row : rows) {
-        tcp->change(
+        farEnd->change(
             [&](PrinterScript& script) { script.answers[statusQuery(row.kind)] = hex(row.reply); });
         EXPECT_EQ(row.state, StatusImpressora(row.kind)) << row.kind << ' ' << row.reply;
     }
     EXPECT_EQ(-126, StatusImpressora(1));
     // In pieces, the third byte counts all the same.
-    tcp->change([&](PrinterScript& script) {
+    farEnd->change([&](PrinterScript& script) {
         script.answers[statusQuery(4)] = hex("00 00 20");
-        script.replyByteGapMs = 2;
+        script.byteGapMs = 2;
     });
     EXPECT_EQ(9, StatusImpressora(4));
 }
@@ -91,9 +91,9 @@ TEST_F(Replies, CombinedStateOnSerial)
     EXPECT_TRUE(
         sameBytes(hex("1D 61 00 10 04 01  1D 61 00 10 04 02  1D 61 00 10 04 04"), takeSent()));
     const PrinterScript quiet = scriptOf({hex("04"), hex("00"), hex("00"), ""});
-    serial->change([&](PrinterScript& script) { script.answers = quiet.answers; });
+    farEnd->change([&](PrinterScript& script) { script.answers = quiet.answers; });
     EXPECT_EQ(0, StatusImpressora(5));
-    serial->change([](PrinterScript& script) { script.answers[statusQuery(2)] = hex("04"); });
+    farEnd->change([](PrinterScript& script) { script.answers[statusQuery(2)] = hex("04"); });
     EXPECT_EQ(2, StatusImpressora(5));
 }
 
@@ -103,7 +103,7 @@ TEST_F(Replies, CombinedStateOnTcpEndsAtTheFirstFailure)
     EXPECT_EQ(2 + 4 + 16, StatusImpressora(5));
     EXPECT_TRUE(
         sameBytes(hex("1D 61 00 10 04 02  1D 61 00 10 04 04  1D 61 00 10 04 14"), takeSent()));
-    tcp->change([](PrinterScript& script) { script.answers[statusQuery(3)].clear(); });
+    farEnd->change([](PrinterScript& script) { script.answers[statusQuery(3)].clear(); });
     data.takeLog();
     EXPECT_EQ(-81, StatusImpressora(5));
     EXPECT_EQ("FUNCAO StatusImpressora. RETORNO:-81", data.takeLog().back());
@@ -114,19 +114,21 @@ TEST_F(Replies, ALateReplyDoesNotAnswerTheNextQuery)
 {
     PrinterScript script = scriptOf({"", "", hex("60"), ""});
     openTcp(script);
-    tcp->change([](PrinterScript& late) { late.replyDelayMs = 1700; });
-    const std::size_t replies = tcp->received().back().replies;
+    farEnd->change([](PrinterScript& late) { late.lateMs = 1700; });
+    const std::size_t replies = farEnd->latest().sent.size();
     EXPECT_EQ(-81, StatusImpressora(3));
-    ASSERT_TRUE(tcp->waitUntil([=](const auto& all) { return all.back().replies > replies; }));
-    tcp->change([](PrinterScript& now) {
-        now.replyDelayMs = 0;
+    ASSERT_TRUE(
+        farEnd->waitUntil([=](const auto& all) { return all.back().sent.size() > replies; }));
+    farEnd->change([](PrinterScript& now) {
+        now.lateMs = 0;
         now.answers[statusQuery(3)] = hex("00");
         now.answers[hex("1D 49 41")] = "Q7" + std::string(1, '\0');
     });
     EXPECT_EQ(5, StatusImpressora(3));
     // The same for an identification, and for a status that nobody took: DirectIO leaves it.
     EXPECT_EQ(-9999, DirectIO(hex("10 04 04").data(), 3, nullptr, nullptr));
-    ASSERT_TRUE(tcp->waitUntil([=](const auto& all) { return all.back().replies > replies + 2; }));
+    ASSERT_TRUE(
+        farEnd->waitUntil([=](const auto& all) { return all.back().sent.size() > replies + 2; }));
     EXPECT_STREQ("Q7", IdImpressora(2));
 }
 
@@ -137,9 +139,9 @@ TEST_F(Replies, Identification)
     for (int kind = 0; kind <= 6; ++kind) {
         const std::string query = hex("1D 49" + requests[kind]);
         const std::string name = "nome " + std::to_string(kind);
-        tcp->change([&](PrinterScript& script) {
-            script.answers = {{query, name + '\0' + (kind % 2 == 0 ? "rest" : "")}};
-            script.replyByteGapMs = kind % 2 * 2; // byte by byte
+        farEnd->change([&](PrinterScript& script) {
+            script.answers = {{query.substr(0, 3), name + '\0' + (kind % 2 == 0 ? "rest" : "")}};
+            script.byteGapMs = kind % 2 * 2; // byte by byte
         });
         EXPECT_EQ(name, IdImpressora(kind));
         EXPECT_EQ(logOf({"IdImpressora. PARAMETROS:" + std::to_string(kind),
@@ -159,11 +161,11 @@ TEST_F(Replies, IdentificationTextIsLatin1)
     const std::pair<const char*, const char*> rows[] = {
         {"sem zero", "sem zero"}, {"ção", "\xE7\xE3o"}, {"A€B", "A"}};
     for (const auto& [sent, text] : rows) {
-        tcp->change(
+        farEnd->change(
             [&, reply = sent](PrinterScript& script) { script.answers[hex("1D 49 43")] = reply; });
         EXPECT_STREQ(text, IdImpressora(4));
     }
-    tcp->change([](PrinterScript& script) { script.isSilent = true; });
+    farEnd->change([](PrinterScript& script) { script.silent = true; });
     EXPECT_STREQ("-81", IdImpressora(4));
     FechaConexaoImpressora();
     EXPECT_STREQ("-4", IdImpressora(4));
@@ -171,20 +173,21 @@ TEST_F(Replies, IdentificationTextIsLatin1)
 
 TEST_F(Replies, DirectIoPassesBytesBothWays)
 {
-    const std::string query = hex("1D 00 FF 01");
+    const std::string query = hex("1D 28 4C 02 00 30 33");
     PrinterScript script;
     script.answers[query] = hex("00 41 00 FF");
-    script.replyByteGapMs = 2;
+    script.byteGapMs = 2;
     openTcp(script);
     EXPECT_EQ(0, directIo(query, 1)); // the size given is no bound
     EXPECT_TRUE(sameBytes(hex("00 41 00 FF"), {reply, replySize}));
-    EXPECT_EQ(logOf({"> 1D 00 FF 01"}), data.takeLog());
+    EXPECT_EQ(logOf({"> 1D 28 4C 02 00 30 33"}), data.takeLog());
     EXPECT_TRUE(sameBytes(query, takeSent()));
 
     // No reply wanted: it waits for a later call, which sends nothing itself.
-    const std::size_t replies = tcp->received().back().replies;
+    const std::size_t replies = farEnd->latest().sent.size();
     EXPECT_EQ(-9999, directIo(query, 0));
-    ASSERT_TRUE(tcp->waitUntil([=](const auto& all) { return all.back().replies == replies + 4; }));
+    ASSERT_TRUE(
+        farEnd->waitUntil([=](const auto& all) { return all.back().sent.size() == replies + 4; }));
     data.takeLog();
     replySize = 9;
     EXPECT_EQ(0, DirectIO(nullptr, 5, reply, &replySize));
@@ -201,7 +204,7 @@ TEST_F(Replies, WaitsAtMost1500Milliseconds)
 {
     PrinterScript script;
     openTcp(script);
-    tcp->change([](PrinterScript& silent) { silent.isSilent = true; });
+    farEnd->change([](PrinterScript& silent) { silent.silent = true; });
     const std::function<int()> calls[] = {[] { return StatusImpressora(2); },
                                           [] { return IdImpressora(0)[1] - '0'; },
                                           [this] { return directIo("x"); }};

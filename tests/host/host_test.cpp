@@ -1,6 +1,5 @@
 // Programs of every kind that hold the library: they hear nothing from it and are not harmed.
 
-#include "bytes.h"
 #include "fake_printer.h"
 #include "program.h"
 #include "temporary_folder.h"
@@ -15,18 +14,11 @@ namespace
 class Host : public testing::Test
 {
 protected:
-    static PrinterScript answering()
-    {
-        PrinterScript script;
-        script.answers[hex("10 04 02")] = hex("12");
-        return script;
-    }
-
     static PrinterScript closing()
     {
         PrinterScript script;
-        script.end = PrinterScript::End::Closes;
-        script.endsAfter = 500;
+        script.exit = PrinterScript::Exit::Close;
+        script.exitAfterBytes = 500;
         return script;
     }
 
@@ -34,15 +26,15 @@ protected:
     {
         const ProgramResult result =
             runProgram({program, std::to_string(printer.port()),
-                        std::to_string(closingPrinter.port()), terminal.device()});
+                        std::to_string(closingPrinter.port()), terminal.serialPath()});
         EXPECT_EQ("", result.output);
         EXPECT_EQ(0, result.exitCode) << "line of host_sequence.c";
     }
 
     DataFolder data{DataFolder::Log::Off};
-    TcpPrinter printer{answering()};
+    TcpPrinter printer;
     TcpPrinter closingPrinter{closing()};
-    PtyPrinter terminal{answering()};
+    PtyPrinter terminal;
 };
 
 TEST_F(Host, WithoutQtHearsNothing)

@@ -100,10 +100,9 @@ TEST_F(Usb, IdentifiersAreComparedInCapitals)
 TEST_F(Usb, PrintsReadsAndCloses)
 {
     PrinterScript script;
-    script.answers[hex("1D 49 43")] = "_VANTA" + std::string(1, '\0');
-    script.replyByteGapMs = 2;
+    script.byteGapMs = 2;
     PtyPrinter printer(script);
-    add(0, "VANTA", printer.device());
+    add(0, "VANTA", printer.serialPath());
     ASSERT_EQ(0, open("VANTA")); // asks nothing
     EXPECT_TRUE(connection.isOpen());
     EXPECT_EQ(3, connection.send("abc"));
@@ -135,10 +134,10 @@ TEST_F(Usb, DeviceThatCannotBeOpenedIsLogged)
 
 TEST_F(Usb, AVanishedDeviceGivesTheSystemsError)
 {
-    PtyPrinter printer;
-    add(0, "VANTA", printer.device());
+    auto printer = std::make_unique<PtyPrinter>();
+    add(0, "VANTA", printer->serialPath());
     ASSERT_EQ(0, open("VANTA"));
-    printer.vanish();
+    printer.reset();
     EXPECT_EQ(5, connection.send("abc")); // EIO, positive: it can be taken for a count
     EXPECT_EQ(0, connection.close());
 }
@@ -146,9 +145,9 @@ TEST_F(Usb, AVanishedDeviceGivesTheSystemsError)
 TEST_F(Usb, APrinterThatNeverReadsIsWaitedForOnce)
 {
     PrinterScript script;
-    script.readsAtMost = 0;
+    script.readBytesAtMost = 0;
     PtyPrinter printer(script);
-    add(0, "VANTA", printer.device());
+    add(0, "VANTA", printer.serialPath());
     ASSERT_EQ(0, open("VANTA"));
     while (connection.send(QByteArray(64, 'x')) > 0)
         ; // what the system takes

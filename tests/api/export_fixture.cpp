@@ -29,22 +29,29 @@ std::string bytesOf(const Transcript& transcript)
     return bytes;
 }
 
+int openOn(const FakePrinter& printer, const std::string& model)
+{
+    const std::string& serial = printer.serialPath();
+    return serial.empty() ? AbreConexaoImpressora(3, model.c_str(), "127.0.0.1", printer.port())
+                          : AbreConexaoImpressora(2, model.c_str(), serial.c_str(), 9600);
+}
+
 void ExportTest::openTcp(const PrinterScript& script)
 {
     farEnd = std::make_unique<TcpPrinter>(script);
-    open(3, script, "127.0.0.1", farEnd->port());
+    open(script.model);
 }
 
 void ExportTest::openSerial(const PrinterScript& script)
 {
     farEnd = std::make_unique<PtyPrinter>(script);
-    open(2, script, farEnd->serialPath(), 115200);
+    open(script.model);
 }
 
-void ExportTest::open(int kind, const PrinterScript& script, const std::string& address, int number)
+void ExportTest::open(const std::string& model)
 {
     m_taken = 0;
-    ASSERT_EQ(0, AbreConexaoImpressora(kind, script.model.c_str(), address.c_str(), number));
+    ASSERT_EQ(0, openOn(*farEnd, model));
     takeSent();
     data.takeLog();
 }

@@ -22,6 +22,9 @@ std::vector<std::string> logOf(const Transcript& transcript);
 /** The bytes that a transcript sends. */
 std::string bytesOf(const Transcript& transcript);
 
+/** Opens a connection to that printer and returns the result. */
+int openOn(const FakePrinter& printer, const std::string& model = "VANTA");
+
 class ExportTest : public testing::Test
 {
 protected:
@@ -38,7 +41,7 @@ protected:
     std::unique_ptr<FakePrinter> farEnd;
 
 private:
-    void open(int kind, const PrinterScript& script, const std::string& address, int number);
+    void open(const std::string& model);
 
     std::size_t m_taken = 0;
 };

@@ -55,7 +55,7 @@ TEST_F(Links, AReceiptArrivesWithin20MillisecondsOfItsFirstByte)
     double afterStatus = 1e9;
     for (int attempt = 0; attempt < 10 && std::max(afterModelCheck, afterStatus) >= 20; ++attempt) {
         farEnd = std::make_unique<TcpPrinter>();
-        ASSERT_EQ(0, AbreConexaoImpressora(3, "VANTA", "127.0.0.1", farEnd->port()));
+        ASSERT_EQ(0, openOn(*farEnd));
         afterModelCheck = std::min(afterModelCheck, receiptMs());
         ASSERT_EQ(4, StatusImpressora(2));
         afterStatus = std::min(afterStatus, receiptMs());
@@ -102,58 +102,49 @@ TEST_F(Links, ACallLeavesAsOnePacket)
     }
 }
 
-class Close : public Links
+/** Prints so many lines of 53 bytes and closes: the printer gets them all. */
+void closeAfter(int lines, FakePrinter& printer, int unaskedStatusMs = 0)
 {
-protected:
-    void closesWithAllOf(const std::string& bytes, const FakePrinter& printer)
-    {
-        EXPECT_EQ(0, FechaConexaoImpressora());
-        EXPECT_TRUE(sameBytes(hex("1D 49 43") + bytes, printer.waitForClose()));
-    }
-};
+    ASSERT_EQ(0, openOn(printer));
+    printer.change([=](PrinterScript& script) { script.unaskedStatusMs = unaskedStatusMs; });
+    std::string bytes = hex("1D 49 43");
+    printLines(lines, bytes);
+    EXPECT_EQ(0, FechaConexaoImpressora());
+    EXPECT_TRUE(sameBytes(bytes, printer.waitForClose()));
+}
 
 // The jobs are larger than what the system's buffers hide, and slow for longer than the 5 s for which
 // a printer may stand still.
-TEST_F(Close, SerialLosesNothingAt9600Baud)
+TEST_F(Links, SerialLosesNothingAt9600Baud)
 {
     PrinterScript script;
     script.readBytesPerSecond = 960;
     script.slowBytes = 9000;
     PtyPrinter printer(script);
-    ASSERT_EQ(0, AbreConexaoImpressora(2, "VANTA", printer.serialPath().c_str(), 9600));
-    std::string bytes;
-    printLines(800, bytes); // 42,400 bytes
-    closesWithAllOf(bytes, printer);
+    closeAfter(800, printer);
 }
 
-TEST_F(Close, TcpLosesNothingAt4KilobytesASecond)
+TEST_F(Links, TcpLosesNothingAt4KilobytesASecond)
 {
     PrinterScript script;
     script.readBytesPerSecond = 4096;
     script.slowBytes = 45'000;
     TcpPrinter printer(script);
-    ASSERT_EQ(0, AbreConexaoImpressora(3, "VANTA", "127.0.0.1", printer.port()));
-    std::string bytes;
-    printLines(8000, bytes); // 424,000 bytes
-    closesWithAllOf(bytes, printer);
+    closeAfter(8000, printer);
 }
 
 // Unread input at the close makes the system reset the connection, and the tail is lost.
-TEST_F(Close, TcpLosesNothingWhileThePrinterSendsStatus)
+TEST_F(Links, TcpLosesNothingWhileThePrinterSendsStatus)
 {
     for (const int bytesPerSecond : {1'000'000, 80'000}) {
         PrinterScript script;
         script.readBytesPerSecond = bytesPerSecond;
         TcpPrinter printer(script);
-        ASSERT_EQ(0, AbreConexaoImpressora(3, "VANTA", "127.0.0.1", printer.port()));
-        printer.change([](PrinterScript& chatty) { chatty.unaskedStatusMs = 5; });
-        std::string bytes;
-        printLines(2500, bytes); // 132,500 bytes
-        closesWithAllOf(bytes, printer);
+        closeAfter(2500, printer, 5);
     }
 }
 
-TEST_F(Close, CountsAreSigned16BitNumbers)
+TEST_F(Links, CountsAreSigned16BitNumbers)
 {
     openTcp();
     for (const int size : {32767, 32768, 65535, 65536, 70000}) {
@@ -168,28 +159,24 @@ TEST_F(Close, CountsAreSigned16BitNumbers)
 void opensAndPrints()
 {
     TcpPrinter printer;
-    EXPECT_EQ(0, AbreConexaoImpressora(3, "VANTA", "127.0.0.1", printer.port()));
+    EXPECT_EQ(0, openOn(printer));
     EXPECT_EQ(1, ImpressaoTexto("x", 0, 0, 0));
     EXPECT_TRUE(sameBytes(hex("1D 49 43  1B 40 1B 74 10") + 'x', printer.waitForBytes(9)));
     EXPECT_EQ(0, FechaConexaoImpressora());
 }
 
-class Vanish : public Links
+/** 600 sends. Returns the last one's result. */
+int printTheRest()
 {
-protected:
-    /** 600 sends and a close. Returns the last send's result. */
-    int printTheRest()
-    {
-        int result = 0;
-        for (int line = 0; line < 150; ++line) {
-            result = ImpressaoTexto(std::string(1500, 'x').c_str(), 0, 0, 0);
-            EXPECT_TRUE(result == 1500 || result == -4 || result == -44) << result;
-        }
-        return result;
+    int result = 0;
+    for (int line = 0; line < 150; ++line) {
+        result = ImpressaoTexto(std::string(1500, 'x').c_str(), 0, 0, 0);
+        EXPECT_TRUE(result == 1500 || result == -4 || result == -44) << result;
     }
-};
+    return result;
+}
 
-TEST_F(Vanish, ConnectionResetInTheMiddle)
+TEST_F(Links, ConnectionResetInTheMiddle)
 {
     for (const auto exit : {PrinterScript::Exit::Reset, PrinterScript::Exit::Close}) {
         openTcp();
@@ -209,12 +196,12 @@ TEST_F(Vanish, ConnectionResetInTheMiddle)
     }
 }
 
-TEST_F(Vanish, TerminalGoneInTheMiddle)
+TEST_F(Links, TerminalGoneInTheMiddle)
 {
     openSerial();
     EXPECT_EQ(1, ImpressaoTexto("x", 0, 0, 0));
     farEnd.reset();
-    const auto took = durationOf([this] {
+    const auto took = durationOf([] {
         printTheRest();
         const int status = StatusImpressora(2);
         EXPECT_TRUE(status == -81 || status == -4) << status;
@@ -224,40 +211,30 @@ TEST_F(Vanish, TerminalGoneInTheMiddle)
     EXPECT_EQ(-4, FechaConexaoImpressora());
     opensAndPrints();
     PtyPrinter other;
-    EXPECT_EQ(0, AbreConexaoImpressora(2, "VANTA", other.serialPath().c_str(), 9600));
+    EXPECT_EQ(0, openOn(other));
 }
 
-TEST_F(Vanish, NetworkPrinterNeverReads)
+TEST_F(Links, APrinterNeverReads)
 {
     PrinterScript script;
     script.readBytesAtMost = 3; // the model query
-    TcpPrinter printer(script);
-    ASSERT_EQ(0, AbreConexaoImpressora(3, "VANTA", "127.0.0.1", printer.port()));
-    EXPECT_LT(durationOf([this] { EXPECT_EQ(1500, printTheRest()); }), seconds(3));
-    EXPECT_LT(durationOf([] { EXPECT_EQ(0, FechaConexaoImpressora()); }), seconds(8));
-    opensAndPrints();
-}
-
-TEST_F(Vanish, SerialPrinterNeverReads)
-{
-    PrinterScript script;
-    script.readBytesAtMost = 3;
-    PtyPrinter printer(script);
-    ASSERT_EQ(0, AbreConexaoImpressora(2, "VANTA", printer.serialPath().c_str(), 9600));
-    EXPECT_LT(durationOf([this] { EXPECT_EQ(1500, printTheRest()); }), seconds(3));
-    EXPECT_LT(durationOf([] { EXPECT_EQ(0, FechaConexaoImpressora()); }), seconds(8));
-    opensAndPrints();
+    for (const auto line : {FakePrinter::Line::Tcp, FakePrinter::Line::Serial}) {
+        const FakePrinter printer(script, line);
+        ASSERT_EQ(0, openOn(printer));
+        EXPECT_LT(durationOf([] { EXPECT_EQ(1500, printTheRest()); }), seconds(3));
+        EXPECT_LT(durationOf([] { EXPECT_EQ(0, FechaConexaoImpressora()); }), seconds(8));
+        opensAndPrints();
+    }
 }
 
 // The application prints and goes on with something else.
-TEST(OpenConnection, TailLeavesWithoutFurtherCalls)
+TEST_F(Links, TailLeavesWithoutFurtherCalls)
 {
-    const DataFolder data(DataFolder::Log::Off);
     PrinterScript script;
     script.readBytesPerSecond = 960;
     script.slowBytes = 4000;
     PtyPrinter printer(script);
-    ASSERT_EQ(0, AbreConexaoImpressora(2, "VANTA", printer.serialPath().c_str(), 9600));
+    ASSERT_EQ(0, openOn(printer));
     const std::string text(30000, 'x'); // more than the system takes
     EXPECT_EQ(30000, ImpressaoTexto(text.c_str(), 0, 0, 0));
     const std::string all = hex("1D 49 43  1B 40 1B 74 10") + text;

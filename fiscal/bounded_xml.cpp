@@ -183,7 +183,7 @@ private:
 };
 
 // Stands between the reader and the builder of the tree: passes everything on, except elements
-// nested too deep.
+// nested too deep and entities that nobody declared.
 class DepthLimit : public QXmlContentHandler
 {
 public:
@@ -227,7 +227,10 @@ public:
     {
         return m_target->processingInstruction(target, data);
     }
-    bool skippedEntity(const QString& name) override { return m_target->skippedEntity(name); }
+    // An entity that is declared nowhere stands for nothing. The builder would make a node of its
+    // name, one in an attribute in front of the element, to be found in the place of an element that
+    // is called so.
+    bool skippedEntity(const QString& /*name*/) override { return true; }
     QString errorString() const override { return m_target->errorString(); }
 
 private:

@@ -22,7 +22,7 @@ void feed(int lines);
 void printLine(const QString& text, TextAlignment alignment, TextStyle style, int feedLines = 1);
 
 /** Prints "-" across columns; nothing but the text's settings when columns is below 1. No line feed
- *  follows: the line fills the paper. */
+ *  follows: a full line prints by itself, and what is left over goes with the next text's reset. */
 void printSeparator(int columns);
 
 /** A label at the left and a value at the right margin of a line of columns; one directly behind the

@@ -19,14 +19,17 @@ namespace
 
 constexpr std::size_t deepestNesting = 256;
 
-// What the engine would not survive or would get wrong: elements nested too deep, or standing in
-// their parent more often than the limits say. Returns a conforming verdict when there is nothing.
-SchemaVerdict checkNestingAndCounts(const QByteArray& document, const CountLimits& limits)
+// What the engine would not survive or would get wrong: entities, which it expands without a bound,
+// elements nested too deep, or standing in their parent more often than the limits say. Returns a
+// conforming verdict when there is nothing.
+SchemaVerdict checkBeforehand(const QByteArray& document, const CountLimits& limits)
 {
     QXmlStreamReader reader(document);
     std::vector<CountLimits> counts(1); // of the children of every open element, outermost first
     while (!reader.atEnd()) {
         reader.readNext();
+        if (reader.isDTD() && !reader.entityDeclarations().isEmpty())
+            return {false, "Entities are declared.", reader.lineNumber()};
         if (reader.isStartElement()) {
             const QString name = reader.name().toString();
             const auto limit = limits.find(name);
@@ -49,7 +52,7 @@ SchemaVerdict runEngine(const QByteArray& document, const QString& schemaPath)
     const CompiledSchema& compiled = CompiledSchema::of(schemaPath);
     if (!compiled.verdict().conforms)
         return compiled.verdict();
-    SchemaVerdict verdict = checkNestingAndCounts(document, compiled.countLimits());
+    SchemaVerdict verdict = checkBeforehand(document, compiled.countLimits());
     if (!verdict.conforms)
         return verdict;
 

@@ -151,7 +151,7 @@ void DanfePrinting::printHeading()
 }
 
 // The blanks print in reverse, as black bars around the two texts. Reverse printing is still on at
-// the end; the reset of the next text ends it.
+// the end: the reset of the next text ends it, where texts reset (not once a line spacing is stored).
 void DanfePrinting::printContingencyBanner()
 {
     feed(2);
@@ -261,7 +261,7 @@ void DanfePrinting::printQrCodeAtTheLeft()
     constexpr int textAreaWidthDots = 366;
     constexpr int textTopDots = 50;
     const int contentSize = m_qrContent.size();
-    const int areaHeightDots = 256 + contentSize % 256; // the taller the longer the QR code's text
+    const int areaHeightDots = 256 + contentSize % 256; // the text's size is the low byte
     const PrinterModel& model = m_printer.model();
     const int offsetLow = model.id == VoltaModel ? contentSize - 25 : model.qrOffsetLow;
 

@@ -86,6 +86,7 @@ const Row rows[] = {
      note("<!ELEMENT d " + times("(", 200000) + "d" + times(")", 200000) + ">", ""), false},
     {"ParenthesesInParameterEntity",
      note("<!ENTITY % p '<!ELEMENT d " + times("(", 60000) + "'> %p;", ""), false},
+    {"UndeclaredInAttribute", "<r><f a='&f;'>x</f></r>", true},
     {"SmallEntities", note("<!ENTITY e 'um'><!ENTITY g '&e; dois'>", "&g;<d a='&e;'/>"), true},
     {"EntityToTheLimit", note(block(), times("&e;", 16)), true},
     {"EntityBeyondIt", note(block(), times("&e;", 16) + "<d a='&e;'/>"), false},

@@ -94,6 +94,8 @@ TEST(XsdValidator, LogsAFaultAsPlainTextWithItsLine)
                   "<xs:any processContents='skip'/></xs:sequence></xs:complexType></xs:element>"),
          QByteArray("<r>\n").repeated(100000) + QByteArray("</r>").repeated(100000),
          "Elements are nested too deep. (linha 257)"},
+        {schemaOf("<xs:element name='r'/>"), "<!DOCTYPE r [<!ENTITY e 'um'>]>\n<r>&e;</r>",
+         "Entities are declared. (linha 1)"},
         {schemaOf("\n<xs:element name='r' type='T'/>"), "<r/>",
          "Type T of element element cannot be resolved. (linha 2)"},
         {"hello", "<r/>", "Start tag expected. (linha 1)"},

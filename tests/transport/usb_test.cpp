@@ -10,10 +10,13 @@
 #include "fake_printer.h"
 #include "temporary_folder.h"
 
+#include <fcntl.h>
 #include <filesystem>
 #include <fstream>
-
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <thread>
+#include <unistd.h>
 
 using namespace q7;
 using namespace q7test;
@@ -142,12 +145,11 @@ TEST_F(Usb, AVanishedDeviceGivesTheSystemsError)
     EXPECT_EQ(0, connection.close());
 }
 
-TEST_F(Usb, APrinterThatNeverReadsIsWaitedForOnce)
+TEST_F(Usb, APrinterThatStopsReadingIsWaitedForOnceUntilItMoves)
 {
-    PrinterScript script;
-    script.readBytesAtMost = 0;
-    PtyPrinter printer(script);
-    add(0, "VANTA", printer.serialPath());
+    add(0, "VANTA");
+    const std::string device = deviceOf(0);
+    ASSERT_EQ(0, ::mkfifo(device.c_str(), 0600));
     ASSERT_EQ(0, open("VANTA"));
     while (connection.send(QByteArray(64, 'x')) > 0)
         ; // what the system takes
@@ -155,7 +157,24 @@ TEST_F(Usb, APrinterThatNeverReadsIsWaitedForOnce)
     for (int line = 0; line < 600; ++line)
         EXPECT_EQ(-44, connection.send("abc\n"));
     EXPECT_LT(Clock::now() - start, std::chrono::seconds(4));
+
+    const int printer = ::open(device.c_str(), O_RDONLY | O_NONBLOCK);
+    char buffer[4096];
+    while (::read(printer, buffer, sizeof buffer) > 0)
+        ;                               // it moves again
+    const QByteArray more(100000, 'y'); // than the system takes at once
+    std::thread reader([&] {
+        for (ssize_t left = more.size(); left > 0;) {
+            std::this_thread::sleep_for(std::chrono::milliseconds(20));
+            while (const ssize_t count =
+                       std::max<ssize_t>(::read(printer, buffer, sizeof buffer), 0))
+                left -= count;
+        }
+    });
+    EXPECT_EQ(more.size(), connection.send(more));
     EXPECT_EQ(0, connection.close());
+    reader.join();
+    ::close(printer);
 }
 
 } // namespace

@@ -12,18 +12,28 @@ std::string statusQuery(int kind)
     return hex("10 04") + static_cast<char>(kind == 1 ? 1 : kind == 2 ? 2 : kind == 3 ? 4 : 20);
 }
 
-/** Answers to the queries of kinds 1 to 4; an empty one stays away. */
-PrinterScript scriptOf(const std::vector<std::string>& replies)
-{
-    PrinterScript script;
-    for (int kind = 1; kind <= 4; ++kind)
-        script.answers[statusQuery(kind)] = replies[static_cast<std::size_t>(kind - 1)];
-    return script;
-}
-
 class Replies : public ExportTest
 {
 protected:
+    /** From now on, the printer's reply to a query; an empty one stays away. */
+    void answer(const std::string& query, const std::string& bytes)
+    {
+        farEnd->change([&](PrinterScript& script) { script.answers[query] = bytes; });
+    }
+
+    void setState(const virtual_printer::State& state)
+    {
+        farEnd->change([&](PrinterScript& script) { script.state = state; });
+    }
+
+    /** Waits until so many further bytes of replies have left the printer. */
+    void waitForReply(std::size_t bytes)
+    {
+        ASSERT_TRUE(farEnd->waitUntil([sent = m_sent += bytes](const FakePrinter::Records& all) {
+            return all.back().sent.size() >= sent;
+        }));
+    }
+
     int directIo(const std::string& command, unsigned size = sizeof reply)
     {
         replySize = size;
@@ -32,22 +42,27 @@ protected:
 
     char reply[64] = {};
     unsigned replySize = 0;
+
+private:
+    std::size_t m_sent = 7; // "_VANTA" and a zero byte, when the connection was opened
+};
+
+struct StateReply {
+    int kind;
+    const char* reply;
+    int state;
 };
 
 TEST_F(Replies, StatesOfASerialPrinter)
 {
-    const struct {
-        int kind;
-        const char* reply;
-        int state;
-    } rows[] = {{1, "FB", 1}, {1, "04", 2}, {2, "04", 3}, {2, "FB", 4}, {3, "93", 5}, {3, "04", 6},
-                {3, "08", 6}, {3, "20", 7}, {3, "40", 7}, {3, "6C", 7}, {3, "00", 5}};
+    const StateReply rows[] = {{1, "FB", 1}, {1, "04", 2}, {2, "04", 3}, {2, "FB", 4},
+                               {3, "93", 5}, {3, "04", 6}, {3, "08", 6}, {3, "20", 7},
+                               {3, "40", 7}, {3, "6C", 7}, {3, "00", 5}};
     openSerial();
-    for (const auto& row : rows) {
-        farEnd->change(
-            [&](PrinterScript& script) { script.answers[statusQuery(row.kind)] = hex(row.reply); });
-        EXPECT_EQ(row.state, StatusImpressora(row.kind)) << row.kind << ' ' << row.reply;
-        EXPECT_TRUE(sameBytes(hex("1D 61 00") + statusQuery(row.kind), takeSent()));
+    for (const auto& [kind, bytes, state] : rows) {
+        answer(statusQuery(kind), hex(bytes));
+        EXPECT_EQ(state, StatusImpressora(kind)) << kind << ' ' << bytes;
+        EXPECT_TRUE(sameBytes(hex("1D 61 00") + statusQuery(kind), takeSent()));
     }
     data.takeLog();
     EXPECT_EQ(5, StatusImpressora(3));
@@ -63,47 +78,41 @@ TEST_F(Replies, StatesOfASerialPrinter)
 
 TEST_F(Replies, StatesOfATcpPrinter)
 {
-    const struct {
-        int kind;
-        const char* reply;
-        int state;
-    } rows[] = {
+    const StateReply rows[] = {
         {2, "04", 3}, {3, "0C", 6}, {4, "00 00 20", 9}, {4, "FF FF DF FF", 8}, {4, "20 20", 8}};
     openTcp();
-    for (const auto& row : rows) {
-        farEnd->change(
-            [&](PrinterScript& script) { script.answers[statusQuery(row.kind)] = hex(row.reply); });
-        EXPECT_EQ(row.state, StatusImpressora(row.kind)) << row.kind << ' ' << row.reply;
+    for (const auto& [kind, bytes, state] : rows) {
+        answer(statusQuery(kind), hex(bytes));
+        EXPECT_EQ(state, StatusImpressora(kind)) << kind << ' ' << bytes;
     }
     EXPECT_EQ(-126, StatusImpressora(1));
     // In pieces, the third byte counts all the same.
-    farEnd->change([&](PrinterScript& script) {
-        script.answers[statusQuery(4)] = hex("00 00 20");
-        script.byteGapMs = 2;
-    });
+    farEnd->change([](PrinterScript& script) { script.byteGapMs = 2; });
+    answer(statusQuery(4), hex("00 00 20"));
     EXPECT_EQ(9, StatusImpressora(4));
 }
 
 TEST_F(Replies, CombinedStateOnSerial)
 {
-    openSerial(scriptOf({hex("00"), hex("00"), hex("60"), hex("00 00 20")}));
+    openSerial();
+    setState({true, true, false, true, true}); // paper out, drawer open; the sensor is not asked
     EXPECT_EQ(1 + 4 + 8, StatusImpressora(5));
     EXPECT_TRUE(
         sameBytes(hex("1D 61 00 10 04 01  1D 61 00 10 04 02  1D 61 00 10 04 04"), takeSent()));
-    const PrinterScript quiet = scriptOf({hex("04"), hex("00"), hex("00"), ""});
-    farEnd->change([&](PrinterScript& script) { script.answers = quiet.answers; });
+    setState({});
     EXPECT_EQ(0, StatusImpressora(5));
-    farEnd->change([](PrinterScript& script) { script.answers[statusQuery(2)] = hex("04"); });
+    setState({false, false, true, false, false}); // the cover
     EXPECT_EQ(2, StatusImpressora(5));
 }
 
 TEST_F(Replies, CombinedStateOnTcpEndsAtTheFirstFailure)
 {
-    openTcp(scriptOf({"", hex("04"), hex("0C"), hex("00 00 20")}));
+    openTcp();
+    setState({false, true, true, true, true}); // the drawer is not asked
     EXPECT_EQ(2 + 4 + 16, StatusImpressora(5));
     EXPECT_TRUE(
         sameBytes(hex("1D 61 00 10 04 02  1D 61 00 10 04 04  1D 61 00 10 04 14"), takeSent()));
-    farEnd->change([](PrinterScript& script) { script.answers[statusQuery(3)].clear(); });
+    answer(statusQuery(3), "");
     data.takeLog();
     EXPECT_EQ(-81, StatusImpressora(5));
     EXPECT_EQ("FUNCAO StatusImpressora. RETORNO:-81", data.takeLog().back());
@@ -112,23 +121,18 @@ TEST_F(Replies, CombinedStateOnTcpEndsAtTheFirstFailure)
 
 TEST_F(Replies, ALateReplyDoesNotAnswerTheNextQuery)
 {
-    PrinterScript script = scriptOf({"", "", hex("60"), ""});
-    openTcp(script);
-    farEnd->change([](PrinterScript& late) { late.lateMs = 1700; });
-    const std::size_t replies = farEnd->latest().sent.size();
+    openTcp();
+    answer(statusQuery(3), hex("60"));
+    farEnd->change([](PrinterScript& script) { script.lateMs = 1700; });
     EXPECT_EQ(-81, StatusImpressora(3));
-    ASSERT_TRUE(
-        farEnd->waitUntil([=](const auto& all) { return all.back().sent.size() > replies; }));
-    farEnd->change([](PrinterScript& now) {
-        now.lateMs = 0;
-        now.answers[statusQuery(3)] = hex("00");
-        now.answers[hex("1D 49 41")] = "Q7" + std::string(1, '\0');
-    });
+    waitForReply(1);
+    farEnd->change([](PrinterScript& script) { script.lateMs = 0; });
+    answer(statusQuery(3), hex("00"));
+    answer(hex("1D 49 41"), "Q7" + std::string(1, '\0'));
     EXPECT_EQ(5, StatusImpressora(3));
     // The same for an identification, and for a status that nobody took: DirectIO leaves it.
     EXPECT_EQ(-9999, DirectIO(hex("10 04 04").data(), 3, nullptr, nullptr));
-    ASSERT_TRUE(
-        farEnd->waitUntil([=](const auto& all) { return all.back().sent.size() > replies + 2; }));
+    waitForReply(2);
     EXPECT_STREQ("Q7", IdImpressora(2));
 }
 
@@ -161,8 +165,7 @@ TEST_F(Replies, IdentificationTextIsLatin1)
     const std::pair<const char*, const char*> rows[] = {
         {"sem zero", "sem zero"}, {"ção", "\xE7\xE3o"}, {"A€B", "A"}};
     for (const auto& [sent, text] : rows) {
-        farEnd->change(
-            [&, reply = sent](PrinterScript& script) { script.answers[hex("1D 49 43")] = reply; });
+        answer(hex("1D 49 43"), sent);
         EXPECT_STREQ(text, IdImpressora(4));
     }
     farEnd->change([](PrinterScript& script) { script.silent = true; });
@@ -184,10 +187,8 @@ TEST_F(Replies, DirectIoPassesBytesBothWays)
     EXPECT_TRUE(sameBytes(query, takeSent()));
 
     // No reply wanted: it waits for a later call, which sends nothing itself.
-    const std::size_t replies = farEnd->latest().sent.size();
     EXPECT_EQ(-9999, directIo(query, 0));
-    ASSERT_TRUE(
-        farEnd->waitUntil([=](const auto& all) { return all.back().sent.size() == replies + 4; }));
+    waitForReply(4 + 4);
     data.takeLog();
     replySize = 9;
     EXPECT_EQ(0, DirectIO(nullptr, 5, reply, &replySize));
@@ -202,9 +203,8 @@ TEST_F(Replies, DirectIoPassesBytesBothWays)
 
 TEST_F(Replies, WaitsAtMost1500Milliseconds)
 {
-    PrinterScript script;
-    openTcp(script);
-    farEnd->change([](PrinterScript& silent) { silent.silent = true; });
+    openTcp();
+    farEnd->change([](PrinterScript& script) { script.silent = true; });
     const std::function<int()> calls[] = {[] { return StatusImpressora(2); },
                                           [] { return IdImpressora(0)[1] - '0'; },
                                           [this] { return directIo("x"); }};

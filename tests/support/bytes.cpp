@@ -3,6 +3,7 @@
 #include "command_list.h"
 #include "command_parser.h"
 
+#include <QString>
 #include <algorithm>
 #include <fstream>
 #include <stdexcept>
@@ -27,24 +28,26 @@ std::string unquoted(std::string_view line, std::size_t& at)
 {
     std::string bytes;
     for (; at < line.size() && line[at] != '"'; ++at) {
-        const auto byte = static_cast<Byte>(line[at]);
-        if (byte == '\\' && at + 1 < line.size()) {
-            const char escape = line[++at];
-            if (escape == 'x')
-                bytes += hexByte(line.substr(at + 1, 2)), at += 2;
-            else
-                bytes += escape == 'n' ? '\n' : escape;
-        } else if (byte < 0x80) {
+        if (line[at] != '\\' || at + 1 == line.size()) {
             bytes += line[at];
-        } else if ((byte == 0xC2 || byte == 0xC3) && at + 1 < line.size()) {
-            bytes += static_cast<char>((byte & 3) << 6 | (static_cast<Byte>(line[++at]) & 0x3F));
+        } else if (line[++at] == 'x') {
+            bytes += hexByte(line.substr(at + 1, 2));
+            at += 2;
         } else {
-            throw std::invalid_argument("not a Latin-1 character: " + std::string(line));
+            bytes += line[at] == 'n' ? '\n' : line[at];
         }
     }
     if (at++ >= line.size())
         throw std::invalid_argument("text without its closing quote: " + std::string(line));
     return bytes;
+}
+
+std::string latin1(const std::string& utf8)
+{
+    const QString text = QString::fromStdString(utf8);
+    if (QString::fromLatin1(text.toLatin1()) != text)
+        throw std::invalid_argument("not in Latin-1: " + utf8);
+    return text.toLatin1().toStdString();
 }
 
 // The commands around that offset; the one at it is marked.
@@ -82,7 +85,8 @@ std::string hex(std::string_view digits)
 std::string encoded(const std::vector<std::string>& lines)
 {
     std::string bytes;
-    for (const std::string_view line : lines)
+    for (const std::string& utf8 : lines) {
+        const std::string line = latin1(utf8);
         for (std::size_t at = 0; at < line.size() && line[at] != ';';) {
             if (line[at] == '"') {
                 bytes += unquoted(line, ++at);
@@ -92,6 +96,7 @@ std::string encoded(const std::vector<std::string>& lines)
             bytes += hex(line.substr(at, end - at));
             at = end;
         }
+    }
     return bytes;
 }
 

@@ -56,9 +56,10 @@ Bitmap rasterRows(std::string_view bytes, int bytesPerRow, int widthDots, int ac
     const int rows = static_cast<int>(bytes.size()) / bytesPerRow;
     Bitmap dots(widthDots * across, rows * down);
     for (int y = 0; y < rows; ++y) {
+        const std::string_view row =
+            bytes.substr(static_cast<std::size_t>(y) * static_cast<std::size_t>(bytesPerRow));
         for (int x = 0; x < widthDots; ++x) {
-            const auto byte = static_cast<unsigned char>(
-                bytes[static_cast<std::size_t>(y * bytesPerRow + x / 8)]);
+            const auto byte = static_cast<unsigned char>(row[static_cast<std::size_t>(x) / 8]);
             if ((byte & (0x80U >> (x % 8U))) != 0) {
                 dots.fill(x * across, y * down, across, down);
             }

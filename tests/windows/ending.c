@@ -1,4 +1,4 @@
-/* A program that ends without closing while its printer takes nothing: ending DLL PORT. What was
+/* A program that ends without closing while its printer is slow: ending DLL PORT. What was
  * printed is still being handed over then, and the end must not wait for it. */
 #include "host.h"
 #include "q7_impressora.h"

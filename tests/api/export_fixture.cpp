@@ -20,15 +20,6 @@ std::vector<std::string> logOf(const Transcript& transcript)
     return lines;
 }
 
-std::string bytesOf(const Transcript& transcript)
-{
-    std::string bytes;
-    for (const std::string& line : transcript)
-        if (line.front() == '>')
-            bytes += encoded({line.substr(1)});
-    return bytes;
-}
-
 int openOn(const FakePrinter& printer, const std::string& model)
 {
     const std::string& serial = printer.serialPath();

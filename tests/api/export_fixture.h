@@ -19,11 +19,16 @@ using Transcript = std::vector<std::string>;
 /** The transcript as DataFolder::takeLog() gives it. */
 std::vector<std::string> logOf(const Transcript& transcript);
 
-/** The bytes that a transcript sends. */
-std::string bytesOf(const Transcript& transcript);
-
 /** Opens a connection to that printer and returns the result. */
 int openOn(const FakePrinter& printer, const std::string& model = "VANTA");
+
+/** The time that a call takes. */
+template <typename Call> Clock::duration durationOf(Call call)
+{
+    const Clock::time_point start = Clock::now();
+    call();
+    return Clock::now() - start;
+}
 
 class ExportTest : public testing::Test
 {

@@ -10,8 +10,6 @@
 
 using namespace q7test;
 
-extern "C" int headerServesC(void);
-
 namespace
 {
 
@@ -51,9 +49,4 @@ TEST(Exports, ListHeaderAndLibraryAgree)
     EXPECT_EQ(Names(),
               difference(listed, namesIn(contentOf(Q7_PUBLIC_HEADER), "Q7_CALL (\\w+)\\(")));
     EXPECT_EQ(Names(), difference(listed, namesIn(nm.output, "^\\S+ \\w (\\S+)$")));
-}
-
-TEST(Exports, ServeCPrograms)
-{
-    EXPECT_EQ(0, headerServesC());
 }

@@ -2,16 +2,17 @@
 
 #include "export_fixture.h"
 
+#include <QThread>
 #include <algorithm>
 #include <arpa/inet.h>
 #include <linux/tcp.h>
-#include <pthread.h>
 
 using namespace q7test;
 
 namespace
 {
 
+using std::chrono::milliseconds;
 using std::chrono::seconds;
 
 /** A receipt of so many lines of 48 columns; what the printer gets is added to `bytes`. */
@@ -24,13 +25,6 @@ void printLines(int count, std::string& bytes)
         EXPECT_EQ(48, ImpressaoTexto(text.c_str(), 0, 0, 0));
         bytes += hex("1B 40 1B 74 10") + text;
     }
-}
-
-template <typename Call> Clock::duration durationOf(Call call)
-{
-    const Clock::time_point start = Clock::now();
-    call();
-    return Clock::now() - start;
 }
 
 /** Without a log, whose lines cost more than the bytes. */
@@ -86,11 +80,8 @@ TEST_F(Links, ACallLeavesAsOnePacket)
 {
     const std::function<void()> calls[] = {
         [] { ImpressaoTexto("abc\n", 1, 15, 17); },
-        [] { ImpressaoCodigoBarras(8, "{C0123456789", 80, 2, 2); },
         [] { ImpressaoQRCode("https://exemplo.com.br", 4, 2); },
         [] { Corte(20); },
-        [] { AvancaPapel(20); },
-        [] { DefineAreaImpressao(0, 0, 512, 1000); },
     };
     openTcp();
     for (const auto& call : calls) {
@@ -102,8 +93,9 @@ TEST_F(Links, ACallLeavesAsOnePacket)
     }
 }
 
-/** Prints so many lines of 53 bytes and closes: the printer gets them all. */
-void closeAfter(int lines, FakePrinter& printer, int unaskedStatusMs = 0)
+/** Prints so many lines of 53 bytes and closes: the printer, which takes at least so long for them,
+ *  gets them all. */
+void closeAfter(int lines, FakePrinter& printer, milliseconds leastTime, int unaskedStatusMs = 0)
 {
     ASSERT_EQ(0, openOn(printer));
     printer.change([=](PrinterScript& script) { script.unaskedStatusMs = unaskedStatusMs; });
@@ -111,6 +103,9 @@ void closeAfter(int lines, FakePrinter& printer, int unaskedStatusMs = 0)
     printLines(lines, bytes);
     EXPECT_EQ(0, FechaConexaoImpressora());
     EXPECT_TRUE(sameBytes(bytes, printer.waitForClose()));
+    const FakePrinter::Record record = printer.latest();
+    EXPECT_GE(record.lastByte - record.firstByte, leastTime);
+    EXPECT_EQ(unaskedStatusMs != 0, record.sent.size() > 7); // than the model's name
 }
 
 // The jobs are larger than what the system's buffers hide, and slow for longer than the 5 s for which
@@ -121,7 +116,7 @@ TEST_F(Links, SerialLosesNothingAt9600Baud)
     script.readBytesPerSecond = 960;
     script.slowBytes = 9000;
     PtyPrinter printer(script);
-    closeAfter(800, printer);
+    closeAfter(800, printer, seconds(8));
 }
 
 TEST_F(Links, TcpLosesNothingAt4KilobytesASecond)
@@ -130,7 +125,7 @@ TEST_F(Links, TcpLosesNothingAt4KilobytesASecond)
     script.readBytesPerSecond = 4096;
     script.slowBytes = 45'000;
     TcpPrinter printer(script);
-    closeAfter(8000, printer);
+    closeAfter(8000, printer, seconds(8));
 }
 
 // Unread input at the close makes the system reset the connection, and the tail is lost.
@@ -140,7 +135,7 @@ TEST_F(Links, TcpLosesNothingWhileThePrinterSendsStatus)
         PrinterScript script;
         script.readBytesPerSecond = bytesPerSecond;
         TcpPrinter printer(script);
-        closeAfter(2500, printer, 5);
+        closeAfter(2500, printer, milliseconds(100), 5);
     }
 }
 
@@ -242,34 +237,21 @@ TEST_F(Links, TailLeavesWithoutFurtherCalls)
     FechaConexaoImpressora();
 }
 
-/** Runs a function on a thread with the stack that Windows gives. */
-void runOnSmallStack(void (*function)())
-{
-    pthread_attr_t attributes;
-    pthread_attr_init(&attributes);
-    pthread_attr_setstacksize(&attributes, 1024 * 1024);
-    pthread_t thread = {};
-    const auto run = [](void* argument) -> void* {
-        (*static_cast<void (**)()>(argument))();
-        return nullptr;
-    };
-    ASSERT_EQ(0, pthread_create(&thread, &attributes, run, &function));
-    pthread_join(thread, nullptr);
-    pthread_attr_destroy(&attributes);
-}
-
 // NULL and text that is not UTF-8 are among the commands' rows.
 TEST_F(Links, HugeTextsOnASmallStack)
 {
     openTcp();
-    runOnSmallStack([] {
+    const std::unique_ptr<QThread> thread(QThread::create([] {
         const std::string huge(1'000'000, '1');
         EXPECT_EQ(1'000'000 % 65536, ImpressaoTexto(huge.c_str(), 0, 0, 0));
         EXPECT_EQ(0, ImpressaoQRCode(huge.c_str(), 1, 1));
         EXPECT_EQ(0, ImpressaoCodigoBarras(8, ("{C" + huge).c_str(), 1, 1, 1));
         EXPECT_EQ(0, ImprimeImagemMemoria(huge.c_str(), 1));
         EXPECT_EQ(-3, AbreConexaoImpressora(3, huge.c_str(), huge.c_str(), 1));
-    });
+    }));
+    thread->setStackSize(1024 * 1024); // as Windows gives
+    thread->start();
+    EXPECT_TRUE(thread->wait(60'000));
 }
 
 } // namespace

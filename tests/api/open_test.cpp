@@ -2,6 +2,7 @@
 
 #include "export_fixture.h"
 
+#include <algorithm>
 #include <cstring>
 #include <dlfcn.h>
 #include <netdb.h>
@@ -10,6 +11,7 @@
 #include <unistd.h>
 
 using namespace q7test;
+using std::chrono::milliseconds;
 
 // The system's resolver, with two names of its own: one that finds IPv6 first and one that never
 // answers. The library finds this function before the C library's.
@@ -33,14 +35,6 @@ namespace
 int openAt(const char* host, int port, const char* model = "VANTA")
 {
     return AbreConexaoImpressora(3, model, host, port);
-}
-
-/** Milliseconds that a call takes. */
-template <typename Call> double millisecondsOf(Call call)
-{
-    const Clock::time_point start = Clock::now();
-    call();
-    return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
 }
 
 const std::string zero(1, '\0');
@@ -96,16 +90,10 @@ TEST_F(Open, RefusesWhatItCannotOpen)
     } rows[] = {
         {0, "VANTA", "x", 1, -2},
         {4, "VANTA", "x", 1, -2},
-        {-1, "VANTA", "x", 1, -2},
-        {2, "VANTA", "x", 0, -11},
-        {2, "VANTA", "x", -9600, -11},
-        {2, "VANTA", "x", 9601, -11},
         {2, "VANTA", "x", 14400, -11},
-        {2, "VANTA", "x", 230400, -11},
         {2, "XPTO", "x", 14400, -3}, // the model comes first
         {2, nullptr, nullptr, 9600, -3},
         {2, "VANTA", nullptr, 9600, -12},
-        {2, "VANTA", "", 9600, -12},
         {2, "VANTA", "/dev/pts/no such", 9600, -12},
         {1, "VANTA", "", 0, -21},
         {3, "VANTA", nullptr, 9100, 2}, // host not found
@@ -134,11 +122,7 @@ TEST_F(Open, AnUnknownModelPassesBehindASuccessOnly)
     EXPECT_EQ(0, open("XPTO")); // the first call of the process
     EXPECT_EQ(0, open("SORBE"));
     EXPECT_EQ(1, ImpressaoTexto("x", 0, 0, 0)); // leaves a count
-    const std::size_t connections = printer.records().size();
-    data.takeLog();
     EXPECT_EQ(-3, open("XPTO"));
-    EXPECT_EQ("FUNCAO AbreConexaoImpressora. RETORNO:-3", data.takeLog().back());
-    EXPECT_EQ(connections, printer.records().size());
     EXPECT_EQ(0, open("SORBE"));
     EXPECT_EQ(0, FechaConexaoImpressora()); // leaves 0
     EXPECT_EQ(0, open("xpto"));
@@ -154,22 +138,14 @@ TEST_F(Open, AnUnknownModelPassesBehindASuccessOnly)
     EXPECT_EQ(0, open("XPTO"));
 }
 
-TEST_F(Open, SerialTakesNineSpeeds)
-{
-    PtyPrinter printer;
-    for (const int speed : {300, 1200, 2400, 4800, 9600, 19200, 38400, 57600, 115200}) {
-        EXPECT_EQ(0, AbreConexaoImpressora(2, "VANTA", printer.serialPath().c_str(), speed))
-            << speed;
-        EXPECT_EQ(0, FechaConexaoImpressora());
-    }
-}
-
 TEST_F(Open, SerialPortsAreFoundInWhateverCase)
 {
     PtyPrinter printer;
     const std::string number = printer.serialPath().substr(printer.serialPath().rfind('/') + 1);
-    for (const std::string& name : {"/dev/pts/" + number, "/DEV/PTS/" + number, "PTS/" + number}) {
-        EXPECT_EQ(0, AbreConexaoImpressora(2, "VANTA", name.c_str(), 9600)) << name;
+    for (const auto& [name, speed] : {std::pair("/dev/pts/" + number, 300),
+                                      {"/DEV/PTS/" + number, 38400},
+                                      {"PTS/" + number, 115200}}) {
+        EXPECT_EQ(0, AbreConexaoImpressora(2, "VANTA", name.c_str(), speed)) << name;
         EXPECT_EQ(0, FechaConexaoImpressora());
     }
 }
@@ -184,7 +160,7 @@ TEST_F(Open, ARefusedConnectionReadsAsSuccess)
               data.takeLog());
     EXPECT_EQ(-4, ImpressaoTexto("x", 0, 0, 0));
     EXPECT_EQ(-4, StatusImpressora(2));
-    EXPECT_STREQ("-4", IdImpressora(0));
+    EXPECT_STREQ("-4", IdImpressora(7));
     EXPECT_EQ(-4, DirectIO("x", 1, nullptr, nullptr));
     EXPECT_EQ(-4, FechaConexaoImpressora());
     openTcp();
@@ -196,10 +172,10 @@ TEST_F(Open, TimesOutWithError5)
     const int port = deafPort();
     for (const char* host : {"127.0.0.1", "muda.teste"}) {
         int result = 0;
-        const double took = millisecondsOf([&] { result = openAt(host, port); });
+        const auto took = durationOf([&] { result = openAt(host, port); });
         EXPECT_EQ(5, result);
-        EXPECT_GT(took, 1900);
-        EXPECT_LT(took, 3000);
+        EXPECT_GT(took, milliseconds(1900));
+        EXPECT_LT(took, milliseconds(3000));
         const auto log = data.takeLog();
         ASSERT_EQ(3U, log.size());
         EXPECT_EQ("FUNCAO Socket operation timed out", log[1]);
@@ -266,22 +242,20 @@ TEST_P(ModelCheck, OnSerialAndTcp)
     for (const auto line : {FakePrinter::Line::Tcp, FakePrinter::Line::Serial}) {
         const FakePrinter printer(script, line);
         int result = 0;
-        const double took = millisecondsOf([&] { result = openOn(printer, row.model); });
+        const auto took = durationOf([&] { result = openOn(printer, row.model); });
         EXPECT_EQ(row.result, result);
-        EXPECT_LT(took, 1500); // 750 ms for the reply
+        EXPECT_LT(took, milliseconds(1500)); // 750 ms for the reply
+        EXPECT_GE(took, milliseconds(std::min(700, row.delayMs + 5 * row.byteGapMs)));
         EXPECT_EQ(row.result == 0 ? 0 : -4, FechaConexaoImpressora());
         EXPECT_TRUE(sameBytes(query, printer.waitForClose()));
     }
 }
 
 const ModelReply modelReplies[] = {
-    {"Named", "VANTA", "_VANTA" + zero, 0},
     {"NamedInSmallLetters", "VANTA", "vanta" + zero, 0},
     {"WithoutZeroByte", "VANTA", "_VANTA", 0},
-    {"ByteByByte", "ORLA-K", "_ORLA-K" + zero, 0, 0, 2},
     {"Late", "VANTA", "_VANTA" + zero, 0, 400},
     {"TooLate", "VANTA", "_VANTA" + zero, -5, 1100},
-    {"Silent", "VANTA", "", -5},
     {"NoModel", "VANTA", "_XPTO" + zero, -5},
     {"OtherModel", "VANTA", "_VESPA" + zero, -3},
     {"NameBehindAZeroByte", "VANTA", zero + "VANTA" + zero, -5},
@@ -292,7 +266,6 @@ const ModelReply modelReplies[] = {
     {"TesmoByteByByte", "TESMO", "\x02TESMO,V1.15", 0, 0, 2},
     {"TesmoFirstFieldCounts", "TESMO", "\x02XPTO,TESMO\x03", -5},
     {"TesmoStartBytesAreDropped", "TESMO", "TE\x02SMO,1", 0},
-    {"TesmoIsAnother", "TESMO", "VANTA,TESMO", -3},
 };
 INSTANTIATE_TEST_SUITE_P(Reply, ModelCheck, testing::ValuesIn(modelReplies),
                          [](const auto& row) { return row.param.name; });

@@ -80,6 +80,7 @@ const Row plainRows[] = {
 INSTANTIATE_TEST_SUITE_P(Plain, Command, testing::ValuesIn(plainRows));
 
 const std::string long253(253, 'x');
+const std::string long256(256, 'x');
 
 const Row qrRows[] = {
     // Three characters are announced, five bytes follow.
@@ -89,16 +90,23 @@ const Row qrRows[] = {
     {CALL(ImpressaoQRCode("", 7, 5)), -51},
     {CALL(ImpressaoQRCode("", 6, 5)), -52},
     {CALL(ImpressaoQRCode(nullptr, 6, 4)), -53},
+    {CALL(ImpressaoQRCode("A", 1, 2)), 0, "1D 6F 00 01 00 02  1D 6B 0B 4D 41 2C  41 00 0A",
+     "ORLA-K"},
+    {CALL(ImpressaoQRCode("A", 1, 3)), 0, "1D 6F 00 01 00 02  1D 6B 0B 51 41 2C  41 00 0A",
+     "ORLA-K"},
     // The caller's own bytes, though they are no UTF-8.
     {CALL(ImpressaoQRCode("\xE7", 6, 4)), 0, "1D 6F 00 06 00 02  1D 6B 0B 48 41 2C  E7 00 0A",
      "ORLA-K"},
     // A line feed, whatever follows.
     {CALL(ImpressaoQRCode("é", 6, 1)), 0, "0A  1D 6B 51 00  0C 0A 01 04 00  C3 A9  0A", "SORBE"},
+    {CALL(ImpressaoQRCode("A", 1, 3)), 0, "0A  1D 6B 51 00  02 11 01 04 00  41  0A", "SORBE"},
     {CALL(ImpressaoQRCode("A", 1, 4)), 0, "0A  1D 6B 51 00  02 14 01 04 00  41  0A", "SORBE"},
     {CALL(ImpressaoQRCode("A", 1, 5)), 0, "0A  1D 6B 51 00  02 0E 01 04 00  41  0A", "SORBE"},
     // The length is 3 more; up to 255 characters its high byte stays 0.
     {CALL(ImpressaoQRCode(long253.c_str(), 1, 1)), 0,
      "0A  1D 6B 51 00  02 0A 01 00 00 \"" + long253 + "\" 0A", "SORBE"},
+    {CALL(ImpressaoQRCode(long256.c_str(), 1, 1)), 0,
+     "0A  1D 6B 51 00  02 0A 01 03 01 \"" + long256 + "\" 0A", "SORBE"},
     {CALL(ImpressaoQRCode("", 0, 0)), -53, "0A", "SORBE"},
     {CALL(ImpressaoQRCode("A", 0, 0)), -51, "0A", "SORBE"},
     {CALL(ImpressaoQRCode("A", 1, 0)), -52, "0A", "SORBE"},

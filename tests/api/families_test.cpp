@@ -198,6 +198,19 @@ TEST_F(ExportTest, TextIsLoggedUnderBothNames)
               data.takeLog());
 }
 
+// An unknown model name passes behind a success only, which tells what the last result was.
+TEST_F(ExportTest, TheFontAloneLeavesTheLastResult)
+{
+    const TcpPrinter network;
+    const auto openAfter = [&](auto operation) {
+        EXPECT_EQ(0, AbreConexaoImpressora(3, "VANTA", "127.0.0.1", network.port()));
+        operation(h, 1);
+        return AbreConexaoImpressora(3, "?", "127.0.0.1", 65537);
+    };
+    EXPECT_EQ(-31, openAfter(SetTextFont));
+    EXPECT_EQ(-3, openAfter(SetTextBold));
+}
+
 // ---------------------------------------------------------------- state
 
 constexpr int unchanged = 77;

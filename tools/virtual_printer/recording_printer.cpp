@@ -14,13 +14,9 @@ public:
             record.lastByte = std::chrono::steady_clock::now();
             record.firstByte = record.bytes.empty() ? record.lastByte : record.firstByte;
             record.bytes.append(bytes);
-            ++record.reads;
         });
     }
-    void command(const Command& command) override
-    {
-        change([&command](Record& record) { record.commands.push_back(command); });
-    }
+    void command(const Command& /*command*/) override {}
     void sent(std::string_view bytes) override
     {
         change([bytes](Record& record) { record.sent.append(bytes); });

@@ -17,8 +17,6 @@ public:
     struct Record {
         std::string bytes;
         std::string sent; // answers and unasked status bytes
-        std::vector<Command> commands;
-        std::size_t reads = 0; // pieces in which the bytes were taken from the link
         std::chrono::steady_clock::time_point firstByte;
         std::chrono::steady_clock::time_point lastByte;
         bool ended = false;

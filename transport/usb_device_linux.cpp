@@ -28,7 +28,7 @@ class UsblpDevice : public UsbDevice
 {
 public:
     explicit UsblpDevice(int descriptor) : m_descriptor(descriptor) {}
-    ~UsblpDevice() override { close(); }
+    ~UsblpDevice() override { UsblpDevice::close(); }
     UsblpDevice(const UsblpDevice&) = delete;
     UsblpDevice& operator=(const UsblpDevice&) = delete;
 

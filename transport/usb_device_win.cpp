@@ -175,7 +175,7 @@ class UsbPrintDevice : public UsbDevice
 {
 public:
     UsbPrintDevice(QString path, HANDLE handle) : m_path(std::move(path)), m_handle(handle) {}
-    ~UsbPrintDevice() override { close(); }
+    ~UsbPrintDevice() override { UsbPrintDevice::close(); }
     UsbPrintDevice(const UsbPrintDevice&) = delete;
     UsbPrintDevice& operator=(const UsbPrintDevice&) = delete;
 

@@ -34,26 +34,19 @@ int UsbLink::send(const QByteArray& bytes)
 {
     if (!isOpen())
         return Q7_ERR_NOT_OPEN;
-    int count = 0;
-    if (m_stalled) {
-        const UsbDevice::Written tried = m_device->write(bytes, stalledWriteTimeoutMs);
-        if (tried.error != 0)
-            return tried.error;
-        if (tried.count == 0 && !bytes.isEmpty())
-            return Q7_ERR_NOT_SENT;
-        m_stalled = false;
-        count = tried.count;
+    const int timeoutMs = writeTimeoutMsFor(bytes.size());
+    UsbDevice::Written written =
+        m_device->write(bytes, m_stalled ? stalledWriteTimeoutMs : timeoutMs);
+    const bool movesAgain = m_stalled && written.count > 0;
+    if (movesAgain && written.error == 0 && written.count < bytes.size()) {
+        const UsbDevice::Written rest = m_device->write(bytes.mid(written.count), timeoutMs);
+        written = {rest.error, written.count + rest.count};
     }
-    if (count < bytes.size() || bytes.isEmpty()) {
-        const UsbDevice::Written written =
-            m_device->write(bytes.mid(count), writeTimeoutMsFor(bytes.size()));
-        // The system's own number, although it can be taken for a count: applications know it.
-        if (written.error != 0)
-            return written.error;
-        count += written.count;
-        m_stalled = written.count == 0 && !bytes.isEmpty();
-    }
-    return count == 0 ? int{Q7_ERR_NOT_SENT} : count;
+    // The system's own number, although it can be taken for a count: applications know it.
+    if (written.error != 0)
+        return written.error;
+    m_stalled = written.count == 0 && !bytes.isEmpty();
+    return written.count == 0 ? int{Q7_ERR_NOT_SENT} : written.count;
 }
 
 bool UsbLink::waitReadable(int /*timeoutMs*/)

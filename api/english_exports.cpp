@@ -3,7 +3,6 @@
 #include "commands.h"
 #include "export_frame.h"
 #include "printer_object.h"
-#include "printer_status.h"
 
 using namespace q7;
 
@@ -19,12 +18,13 @@ struct StateOfStatus {
 // Only these are known. A drawer signal or the paper sensor in the sum makes it unknown: programs
 // written for this interface ask for the drawer apart.
 constexpr StateOfStatus statesOfStatus[] = {
-    {0, 0},
-    {CoverOpenBit, 2},
-    {PaperNearEndBit, 4},
-    {CoverOpenBit + PaperNearEndBit, 6},
-    {PaperNearEndBit + PaperOutBit, 1},
-    {CoverOpenBit + PaperNearEndBit + PaperOutBit, 5},
+    {0, Q7_PRINTER_READY},
+    {Q7_STATE_BIT_COVER_OPEN, Q7_PRINTER_COVER_OPEN},
+    {Q7_STATE_BIT_PAPER_NEAR_END, Q7_PRINTER_PAPER_NEAR_END},
+    {Q7_STATE_BIT_COVER_OPEN + Q7_STATE_BIT_PAPER_NEAR_END, Q7_PRINTER_COVER_OPEN_PAPER_NEAR_END},
+    {Q7_STATE_BIT_PAPER_NEAR_END + Q7_STATE_BIT_PAPER_OUT, Q7_PRINTER_PAPER_OUT},
+    {Q7_STATE_BIT_COVER_OPEN + Q7_STATE_BIT_PAPER_NEAR_END + Q7_STATE_BIT_PAPER_OUT,
+     Q7_PRINTER_COVER_OPEN_PAPER_OUT},
 };
 
 void writeState(int* state, int value)
@@ -199,7 +199,7 @@ int Q7_CALL OpenCashDrawer(void* handle, int pin, int onTime, int offTime)
 int Q7_CALL GetPrinterState(void* /*handle*/, int* state)
 {
     return whenOpen([&] {
-        const int status = printerObject().askStatus(CombinedStatus);
+        const int status = printerObject().askStatus(Q7_STATUS_ALL);
         for (const StateOfStatus& known : statesOfStatus)
             if (known.status == status) {
                 writeState(state, known.state);
@@ -212,10 +212,10 @@ int Q7_CALL GetPrinterState(void* /*handle*/, int* state)
 int Q7_CALL GetDrawerState(void* /*handle*/, int* state, int polarity)
 {
     return whenOpen([&] {
-        const int status = printerObject().askStatus(DrawerStatus);
-        if (status == DrawerLow)
+        const int status = printerObject().askStatus(Q7_STATUS_DRAWER);
+        if (status == Q7_STATE_DRAWER_LOW)
             writeState(state, polarity != 0 ? 1 : 0);
-        else if (status == DrawerHigh)
+        else if (status == Q7_STATE_DRAWER_HIGH)
             writeState(state, polarity != 0 ? 0 : 1);
         return int{Q7_OK}; // also when the printer told nothing
     });

@@ -2,7 +2,6 @@
 
 #include "commands.h"
 #include "export_frame.h"
-#include "printer_status.h"
 
 #include <cstring>
 
@@ -16,47 +15,48 @@ constexpr int directIoTimeoutMs = 500;
 char requestByte(int kind) // n of DLE EOT
 {
     switch (kind) {
-    case DrawerStatus:
+    case Q7_STATUS_DRAWER:
         return 1;
-    case CoverStatus:
+    case Q7_STATUS_COVER:
         return 2;
-    case PaperStatus:
+    case Q7_STATUS_PAPER:
         return 4;
     default:
         return 20;
     }
 }
 
-State stateIn(int kind, const QByteArray& reply)
+Q7State stateIn(int kind, const QByteArray& reply)
 {
     const auto byteAt = [&reply](int index) {
         return index < reply.size() ? static_cast<unsigned char>(reply.at(index)) : 0;
     };
     switch (kind) {
-    case DrawerStatus:
-        return (byteAt(0) & 0x04) != 0 ? DrawerHigh : DrawerLow;
-    case CoverStatus:
-        return (byteAt(0) & 0x04) != 0 ? CoverOpen : CoverClosed;
-    case PaperStatus:
+    case Q7_STATUS_DRAWER:
+        return (byteAt(0) & 0x04) != 0 ? Q7_STATE_DRAWER_HIGH : Q7_STATE_DRAWER_LOW;
+    case Q7_STATUS_COVER:
+        return (byteAt(0) & 0x04) != 0 ? Q7_STATE_COVER_OPEN : Q7_STATE_COVER_CLOSED;
+    case Q7_STATUS_PAPER:
         if ((byteAt(0) & 0x60) != 0)
-            return PaperOut;
-        return (byteAt(0) & 0x0C) != 0 ? PaperNearEnd : PaperPresent;
+            return Q7_STATE_PAPER_OUT;
+        return (byteAt(0) & 0x0C) != 0 ? Q7_STATE_PAPER_NEAR_END : Q7_STATE_PAPER_PRESENT;
     default:
-        return (byteAt(2) & 0x20) != 0 ? SensorSignalled : SensorClear;
+        return (byteAt(2) & 0x20) != 0 ? Q7_STATE_SENSOR_SIGNALLED : Q7_STATE_SENSOR_CLEAR;
     }
 }
 
-// Returns a State or a negative code.
+// Returns a Q7State or a negative code.
 int queryState(PrinterSession& printerSession, int kind)
 {
     const bool isNetwork = printerSession.connection->getKind() == NetworkConnection;
-    if ((kind == SensorStatus && !isNetwork) || (kind == DrawerStatus && isNetwork))
+    if ((kind == Q7_STATUS_SENSOR && !isNetwork) || (kind == Q7_STATUS_DRAWER && isNetwork))
         return Q7_ERR_STATUS_UNAVAILABLE;
 
     QByteArray query = CMD_STATUS_QUERY;
     query[query.size() - 1] = requestByte(kind);
     printerSession.sendQuery({CMD_AUTO_STATUS_OFF, query});
-    const int status = printerSession.readReply(kind == SensorStatus ? isNeverWhole : isOneByte);
+    const int status =
+        printerSession.readReply(kind == Q7_STATUS_SENSOR ? isNeverWhole : isOneByte);
     return status != Q7_OK ? status : stateIn(kind, printerSession.replyData);
 }
 
@@ -64,14 +64,14 @@ int queryState(PrinterSession& printerSession, int kind)
 int queryCombinedState(PrinterSession& printerSession)
 {
     struct Query {
-        StatusKind kind;
+        Q7Status kind;
         bool isAsked;
     };
     const bool isNetwork = printerSession.connection->getKind() == NetworkConnection;
-    const Query queries[] = {{DrawerStatus, !isNetwork},
-                             {CoverStatus, true},
-                             {PaperStatus, true},
-                             {SensorStatus, isNetwork}};
+    const Query queries[] = {{Q7_STATUS_DRAWER, !isNetwork},
+                             {Q7_STATUS_COVER, true},
+                             {Q7_STATUS_PAPER, true},
+                             {Q7_STATUS_SENSOR, isNetwork}};
     int sum = 0;
     for (const Query& query : queries) {
         if (!query.isAsked)
@@ -80,20 +80,20 @@ int queryCombinedState(PrinterSession& printerSession)
         if (state < 0)
             return state;
         switch (state) {
-        case DrawerLow:
-            sum += DrawerLowBit;
+        case Q7_STATE_DRAWER_LOW:
+            sum += Q7_STATE_BIT_DRAWER_LOW;
             break;
-        case CoverOpen:
-            sum += CoverOpenBit;
+        case Q7_STATE_COVER_OPEN:
+            sum += Q7_STATE_BIT_COVER_OPEN;
             break;
-        case PaperNearEnd:
-            sum += PaperNearEndBit;
+        case Q7_STATE_PAPER_NEAR_END:
+            sum += Q7_STATE_BIT_PAPER_NEAR_END;
             break;
-        case PaperOut:
-            sum += PaperNearEndBit + PaperOutBit;
+        case Q7_STATE_PAPER_OUT:
+            sum += Q7_STATE_BIT_PAPER_NEAR_END + Q7_STATE_BIT_PAPER_OUT;
             break;
-        case SensorSignalled:
-            sum += SensorSignalledBit;
+        case Q7_STATE_SENSOR_SIGNALLED:
+            sum += Q7_STATE_BIT_SENSOR_SIGNALLED;
             break;
         default:
             break;
@@ -135,10 +135,10 @@ QByteArray identify(PrinterSession& printerSession, int kind)
 int Q7_CALL StatusImpressora(int param)
 {
     return runCommand({"StatusImpressora"}, std::tie(param), [&](PrinterSession& printerSession) {
-        if (param < DrawerStatus || param > CombinedStatus)
+        if (param < Q7_STATUS_DRAWER || param > Q7_STATUS_ALL)
             return refused(Q7_ERR_STATUS_KIND);
-        return returned(param == CombinedStatus ? queryCombinedState(printerSession)
-                                                : queryState(printerSession, param));
+        return returned(param == Q7_STATUS_ALL ? queryCombinedState(printerSession)
+                                               : queryState(printerSession, param));
     });
 }
 

@@ -15,7 +15,6 @@
 #include <stdlib.h>
 #include <string.h>
 
-enum { KIND_USB = 1, KIND_SERIAL = 2, KIND_NETWORK = 3 };
 enum { LINES_BEFORE_CUT = 5 };
 
 struct link_address {
@@ -31,13 +30,13 @@ static int parse_link(const char* text, struct link_address* address)
     size_t length;
     memset(address, 0, sizeof *address);
     if (strcmp(text, "usb") == 0) {
-        address->kind = KIND_USB;
+        address->kind = Q7_CONNECTION_USB;
         return 1;
     }
     if (strncmp(text, "net:", 4) == 0)
-        address->kind = KIND_NETWORK;
+        address->kind = Q7_CONNECTION_TCP;
     else if (strncmp(text, "com:", 4) == 0)
-        address->kind = KIND_SERIAL;
+        address->kind = Q7_CONNECTION_SERIAL;
     if (address->kind == 0 || last < text + 4)
         return 0;
     length = (size_t)(last - (text + 4));

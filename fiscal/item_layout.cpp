@@ -70,7 +70,7 @@ QString cfeItemHeader(int width2)
                : QStringLiteral("#| COD | DESC | QTD | UN |VL UN R$|(VL TR R$)|VL ITEM R$");
 }
 
-QString cfeItemLine(const CfeItem& item, int /*width1*/, int width2)
+QString cfeItemLine(const CfeItem& item, int width2)
 {
     const QLatin1Char blank(' ');
     const QString left = item.number + blank + item.code + blank + item.description + blank +
@@ -88,22 +88,15 @@ QString nfceItemHeader(int options, int width)
         {"N   Codigo  Descricao              Qtde  UN   Vl Unit   Vl Total",
          "N   Codigo        Descricao        Qtde  UN   Vl Unit   Vl Total"},
     };
-    // Indexed also by the reserved option, for which narrow receipts have their texts twice.
-    static constexpr const char* narrow[2][2][2] = {
-        {{"Codigo  Descricao             Qtde UN  Vl Unit  Vl Total",
-          "Codigo  Descricao             Qtde UN  Vl Unit  Vl Total"},
-         {"Codigo        Descricao       Qtde UN  Vl Unit  Vl Total",
-          "Codigo        Descricao       Qtde UN  Vl Unit  Vl Total"}},
-        {{"N   Codigo  Descricao         Qtde UN  Vl Unit  Vl Total",
-          "N   Codigo  Descricao         Qtde UN  Vl Unit  Vl Total"},
-         {"N   Codigo        Descricao   Qtde UN  Vl Unit  Vl Total",
-          "N   Codigo        Descricao   Qtde UN  Vl Unit  Vl Total"}},
+    static constexpr const char* narrow[2][2] = {
+        {"Codigo  Descricao             Qtde UN  Vl Unit  Vl Total",
+         "Codigo        Descricao       Qtde UN  Vl Unit  Vl Total"},
+        {"N   Codigo  Descricao         Qtde UN  Vl Unit  Vl Total",
+         "N   Codigo        Descricao   Qtde UN  Vl Unit  Vl Total"},
     };
     const int number = (options & ItemNumberColumn) != 0 ? 1 : 0;
     const int wideCode = (options & WideCodeColumn) != 0 ? 1 : 0;
-    const int reserved = (options & ReservedColumn) != 0 ? 1 : 0;
-    return QLatin1String(width == wideReceipt ? wide[number][wideCode]
-                                              : narrow[number][wideCode][reserved]);
+    return QLatin1String((width == wideReceipt ? wide : narrow)[number][wideCode]);
 }
 
 QString nfceItemLine(const NfceItem& item, int options, int width)

@@ -6,10 +6,10 @@
 namespace q7
 {
 
-/** Options of the NFC-e's item table, bits of ImprimeXMLNFCe's param. */
+/** Options of the NFC-e's item table, bits of ImprimeXMLNFCe's param. The bit 0x04 is reserved for it
+ *  and changes nothing. */
 enum NfceItemOption : int {
     WideCodeColumn = 0x02, // the GTIN in the place of the item's code
-    ReservedColumn = 0x04, // looked at, changes nothing
     ItemNumberColumn = 0x100,
 };
 
@@ -20,8 +20,7 @@ enum NfceItemOption : int {
 /** width2: columns of the small font. */
 QString cfeItemHeader(int width2);
 
-/** width1, the columns of the normal font, changes nothing. */
-QString cfeItemLine(const CfeItem& item, int width1, int width2);
+QString cfeItemLine(const CfeItem& item, int width2);
 
 QString nfceItemHeader(int options, int width);
 

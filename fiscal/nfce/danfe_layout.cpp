@@ -140,7 +140,7 @@ void DanfePrinting::printHeading()
     heading += '\n' + m_note.issuerAddress + '\n';
     const QString title = "Documento Auxiliar da Nota Fiscal de Consumidor Eletrônica";
     if (has(HeadingBesideLogo)) {
-        printLogoHeading(heading, 2);
+        printLogoHeading(heading, LogoPlace::LeftMargin);
         feed(1);
         printLine(title, AlignCentre, SmallFont);
     } else {
@@ -210,7 +210,7 @@ void DanfePrinting::printPayments()
     printLine(labelAndValue("FORMA DE PAGAMENTO", "VALOR PAGO R$", m_columns), AlignLeft,
               SmallFont);
     m_printer.send(m_codeTable);
-    for (const NfcePayment& payment : m_note.payments)
+    for (const Payment& payment : m_note.payments)
         printLine(labelAndValue(payment.name, formatDecimalBR(payment.value), m_columns), AlignLeft,
                   SmallFont);
     if (!m_note.change.isEmpty())
@@ -257,8 +257,6 @@ void DanfePrinting::printIdentificationAndQrCode()
 // Opens page mode, places the QR code and leaves the area to its right for the text.
 void DanfePrinting::printQrCodeAtTheLeft()
 {
-    constexpr int qrAreaWidthDots = 225;
-    constexpr int textAreaWidthDots = 366;
     constexpr int textTopDots = 50;
     const int contentSize = m_qrContent.size();
     const int areaHeightDots = 256 + contentSize % 256; // the text's size is the low byte
@@ -266,11 +264,11 @@ void DanfePrinting::printQrCodeAtTheLeft()
     const int offsetLow = model.id == VoltaModel ? contentSize - 25 : model.qrOffsetLow;
 
     m_printer.sendAll(
-        {CMD_PAGE_MODE, printArea(0, 0, qrAreaWidthDots, areaHeightDots), CMD_CANCEL,
+        {CMD_PAGE_MODE, printArea(0, 0, pictureColumnDots, areaHeightDots), CMD_CANCEL,
          CMD_DIRECTION_0, CMD_HORIZONTAL_POSITION + argumentWord(0),
          CMD_VERTICAL_POSITION + argumentByte(offsetLow) + argumentByte(model.qrOffsetHigh)});
     ImpressaoQRCode(m_qrContent.toUtf8().constData(), qrModuleDots, qrLevelM);
-    m_printer.sendAll({printArea(qrAreaWidthDots, 0, textAreaWidthDots, areaHeightDots),
+    m_printer.sendAll({printArea(pictureColumnDots, 0, textColumnDots, areaHeightDots),
                        CMD_HORIZONTAL_POSITION + argumentWord(0),
                        CMD_VERTICAL_POSITION + argumentWord(textTopDots)});
 }

@@ -11,8 +11,6 @@
 namespace q7
 {
 
-using NfcePayment = Payment;
-
 /** Read once when made, and only read from then on. Texts as written in the XML unless said
  *  otherwise, empty where the element is missing. */
 class NfceDocument : public FiscalXmlDocument
@@ -42,7 +40,7 @@ public:
     QString recipientName;
     QString recipientAddress; // the place of delivery, in one line
     std::vector<NfceItem> items;
-    std::vector<NfcePayment> payments;
+    std::vector<Payment> payments;
     QString freight;
     QString insurance;
     QString discount;

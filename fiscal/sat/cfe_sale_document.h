@@ -10,8 +10,6 @@
 namespace q7
 {
 
-using CfePayment = Payment;
-
 class CfeSaleDocument : public CfeDocument
 {
 public:
@@ -36,7 +34,7 @@ public:
     QString taxTotal12741;
     QString deliveryText; // no field of the document fills it
     std::vector<CfeItem> items;
-    std::vector<CfePayment> payments;
+    std::vector<Payment> payments;
 
 private:
     void readItems();

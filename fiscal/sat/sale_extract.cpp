@@ -52,7 +52,7 @@ void printItems(const PrinterSession& printer, const CfeSaleDocument& sale)
     printSatSeparator(printer);
     QString lines;
     for (const CfeItem& item : sale.items)
-        lines += cfeItemLine(item, model.width1, model.width2);
+        lines += cfeItemLine(item, model.width2);
     print(lines, AlignLeft, SmallFont);
 }
 
@@ -60,7 +60,7 @@ void printTotals(const PrinterSession& printer, const CfeSaleDocument& sale)
 {
     const int columns = printer.model().width2;
     printLine(labelAndValue("TOTAL R$", sale.total, columns), AlignLeft, SmallFont);
-    for (const CfePayment& payment : sale.payments)
+    for (const Payment& payment : sale.payments)
         printLine(labelAndValue(payment.name, formatDecimalBR(payment.value), columns), AlignLeft,
                   SmallFont);
     printLine(labelAndValue("Troco R$", sale.change, columns), AlignCentre, SmallFont);

@@ -32,7 +32,7 @@ void printSatSeparator(const PrinterSession& session)
 void printHeading(const QString& heading, int options)
 {
     if ((options & headingBesideLogo) != 0)
-        printLogoHeading(heading, 1);
+        printLogoHeading(heading, LogoPlace::Indented);
     else
         printLine(heading, AlignCentre, SmallFont, 2);
 }

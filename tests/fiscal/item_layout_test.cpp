@@ -31,7 +31,7 @@ TEST(CfeItems, AmountEndsAtTheRightMargin)
         q7::CfeItem item;
         static_cast<q7::FiscalItem&>(item) = {
             "1", "101", QString::fromUtf8(row.description), "0.4800", "KG", "18.90", "9.07"};
-        EXPECT_EQ(q7::cfeItemLine(item, 42, row.width2).toStdString(), row.line);
+        EXPECT_EQ(q7::cfeItemLine(item, row.width2).toStdString(), row.line);
     }
 }
 

@@ -3,6 +3,10 @@
 add_library(q7_compile_options INTERFACE)
 target_compile_features(q7_compile_options INTERFACE cxx_std_17)
 target_compile_definitions(q7_compile_options INTERFACE QT_NO_KEYWORDS QT_NO_FOREACH)
+if(WIN32)
+    # Windows 7, which many tills run: what came later is not declared.
+    target_compile_definitions(q7_compile_options INTERFACE _WIN32_WINNT=0x0601 WINVER=0x0601)
+endif()
 if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
     target_compile_options(q7_compile_options INTERFACE
         -Wall -Wextra -Wpedantic -Wconversion -Wshadow

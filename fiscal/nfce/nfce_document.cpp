@@ -44,11 +44,17 @@ NfceDocument::NfceDocument(const FiscalXmlDocument& xml) : FiscalXmlDocument(xml
              "=========================TERMINO CONSTROI OBJ.......................\n");
     // As a character of that code. Odd, and what the log has always had.
     writeLog(LogKind::Information, QChar(endedAt + 1));
+    readForTodaysRules();
 }
 
 QString NfceDocument::addressOf(int ibgeNumber, NfceAddressKind kind) const
 {
     return nfceAddress(ibgeNumber, kind, environment.toInt() == 1);
+}
+
+bool NfceDocument::isSimplifiedType2() const
+{
+    return documentModel == QLatin1String("55") && printFormat == QLatin1String("6");
 }
 
 // Returns the step that failed, or the count of steps.
@@ -65,7 +71,7 @@ int NfceDocument::readFields()
     readRecipient();
     readItems();
     readTotals();
-    payments = readPayments(listAt("nfeProc|NFe|infNFe|pag|detPag"), "tPag", "vPag");
+    readPayments();
     change = fieldAt("pag|vTroco");
     protocolNumber = textAt("nfeProc|protNFe|infProt|nProt");
     authorisationDateTime = textAt("nfeProc|protNFe|infProt|dhRecbto");
@@ -109,6 +115,13 @@ QString NfceDocument::postalAddressAt(const FieldPath& group, const char* behind
            fieldAt(group + "|xMun") + blank + fieldAt(group + "|UF");
 }
 
+QString NfceDocument::placeAt(const FieldPath& group, const char* behindStreet) const
+{
+    return hasElementAt("nfeProc|NFe|infNFe|" + group)
+               ? postalAddressAt(group, behindStreet).simplified()
+               : QString();
+}
+
 void NfceDocument::readIssuer()
 {
     issuerCnpjLine = "CNPJ " + formatCnpj(fieldAt("emit|CNPJ"));
@@ -147,6 +160,34 @@ void NfceDocument::readTotals()
     discount = fieldAt("total|ICMSTot|vDesc");
     otherCharges = fieldAt("total|ICMSTot|vOutro");
     total = fieldAt("total|ICMSTot|vNF");
+}
+
+void NfceDocument::readPayments()
+{
+    const QDomNodeList elements = listAt("nfeProc|NFe|infNFe|pag|detPag");
+    for (const Payment& payment : q7::readPayments(elements, "tPag", "vPag")) {
+        const QDomNode element = elements.item(static_cast<int>(payments.size()));
+        payments.push_back({payment, childText(element, "tPag"), childText(element, "xPag")});
+    }
+}
+
+void NfceDocument::readForTodaysRules()
+{
+    documentModel = fieldAt("ide|mod");
+    printFormat = fieldAt("ide|tpImp");
+    environmentType = fieldAt("ide|tpAmb");
+    presence = fieldAt("ide|indPres");
+    issuerCnpj = fieldAt("emit|CNPJ");
+    issuerCpf = fieldAt("emit|CPF");
+    issuerPlace = placeAt("emit|enderEmit", ", ");
+    recipientPlace = placeAt("entrega", " ");
+    if (recipientPlace.isEmpty())
+        recipientPlace = placeAt("dest|enderDest", " ");
+    protocolMessage = textAt("nfeProc|protNFe|infProt|xMsg");
+    hasConsumptionTaxes = hasElementAt("nfeProc|NFe|infNFe|total|IBSCBSTot");
+    cbs = fieldAt("total|IBSCBSTot|gCBS|vCBS");
+    ibs = fieldAt("total|IBSCBSTot|gIBS|vIBS");
+    selectiveTax = fieldAt("total|ISTot|vIS");
 }
 
 } // namespace q7

@@ -11,6 +11,12 @@
 namespace q7
 {
 
+/** A payment, whose name is that of the original receipt. */
+struct NfcePayment : Payment {
+    QString code;        // tPag
+    QString description; // xPag
+};
+
 /** Read once when made, and only read from then on. Texts as written in the XML unless said
  *  otherwise, empty where the element is missing. */
 class NfceDocument : public FiscalXmlDocument
@@ -22,6 +28,14 @@ public:
 
     /** The address of a state, in this note's environment. */
     QString addressOf(int ibgeNumber, NfceAddressKind kind) const;
+
+    // Under today's rules.
+
+    /** Issued in contingency and not authorised since. */
+    bool isPending() const { return emissionType.toInt() != 1 && protocolNumber.isEmpty(); }
+
+    /** An NF-e that is printed as a receipt. */
+    bool isSimplifiedType2() const;
 
     QString number;
     QString series;
@@ -40,7 +54,7 @@ public:
     QString recipientName;
     QString recipientAddress; // the place of delivery, in one line
     std::vector<NfceItem> items;
-    std::vector<Payment> payments;
+    std::vector<NfcePayment> payments;
     QString freight;
     QString insurance;
     QString discount;
@@ -56,6 +70,22 @@ public:
     QString approximateTaxes;
     QString digestValue; // base64
 
+    // What the receipt under today's rules takes besides. Read from every note, also from one that is
+    // not read beyond its date.
+    QString documentModel;   // "65" NFC-e, "55" NF-e
+    QString printFormat;     // tpImp
+    QString environmentType; // tpAmb: "1" production, "2" test
+    QString presence;        // indPres
+    QString issuerCnpj;
+    QString issuerCpf;
+    QString issuerPlace;    // the address with single blanks
+    QString recipientPlace; // the place of delivery, else the recipient's own address, likewise
+    QString protocolMessage;
+    bool hasConsumptionTaxes = false; // the group IBSCBSTot is there
+    QString cbs;
+    QString ibs;
+    QString selectiveTax; // IS
+
 private:
     /** A field below infNFe. */
     QString fieldAt(const FieldPath& path) const { return textAt("nfeProc|NFe|infNFe|" + path); }
@@ -64,12 +94,17 @@ private:
      *  street and the number. */
     QString postalAddressAt(const FieldPath& group, const char* behindStreet) const;
 
+    /** The same with single blanks; empty without the group. */
+    QString placeAt(const FieldPath& group, const char* behindStreet) const;
+
     int readFields();
     bool readConsultationBlock();
     void readIssuer();
     void readRecipient();
     void readItems();
     void readTotals();
+    void readPayments();
+    void readForTodaysRules();
 };
 
 } // namespace q7

@@ -1,9 +1,9 @@
 // ImprimeXMLNFCe: checks an NFC-e and prints its DANFE.
 
-#include "danfe_layout.h"
 #include "export_frame.h"
 #include "nfce_document.h"
 #include "nfce_qr_content.h"
+#include "original_danfe.h"
 
 using namespace q7;
 
@@ -25,11 +25,11 @@ int checkVersion(const FiscalXmlDocument& xml)
 void printCopies(PrinterSession& printer, const NfceDocument& note, const QString& qrContent,
                  Emission emission, int options)
 {
-    printDanfe(printer, note, qrContent, emission, options);
+    printOriginalDanfe(printer, note, qrContent, emission, options);
     if (emission == Emission::Normal || (options & SingleCopy) != 0)
         return;
     Corte(linesBeforeSecondCopy);
-    printDanfe(printer, note, qrContent, emission, options);
+    printOriginalDanfe(printer, note, qrContent, emission, options);
 }
 
 } // namespace

@@ -1,8 +1,7 @@
-#include "danfe_layout.h"
+#include "original_danfe.h"
 
 #include "commands.h"
 #include "formatters.h"
-#include "item_layout.h"
 #include "logo_heading.h"
 #include "receipt_text.h"
 
@@ -61,10 +60,10 @@ QStringList identificationLines(const NfceDocument& note)
         .split(bar);
 }
 
-class DanfePrinting
+class OriginalDanfe
 {
 public:
-    DanfePrinting(PrinterSession& printer, const NfceDocument& note, const QString& qrContent,
+    OriginalDanfe(PrinterSession& printer, const NfceDocument& note, const QString& qrContent,
                   Emission emission, int options)
         : m_printer(printer),
           m_note(note),
@@ -83,14 +82,14 @@ public:
             printContingencyBanner();
         feed(1);
         if (!has(WithoutItems))
-            printItems();
-        endSection();
+            printItemTable(m_note.items, m_options, m_columns);
+        endSection(m_options, m_columns);
         printTotals();
         printPayments();
         if (has(HomologationNotice))
             printLine("EMITIDA EM AMBIENTE DE HOMOLOGAÇÃO\nSEM VALOR FISCAL", AlignCentre,
                       Emphasised);
-        printAccessKey();
+        printConsultation(m_note);
         printIdentificationAndQrCode();
         printTaxesAndRemarks();
     }
@@ -98,24 +97,13 @@ public:
 private:
     bool has(int option) const { return (m_options & option) != 0; }
 
-    /** A section's end where separators are asked for: a separator and a line feed. */
-    void endSection()
-    {
-        if (!has(Separators))
-            return;
-        printSeparator(m_columns);
-        feed(1);
-    }
-
     /** Sends a text straight to the printer, without the settings that ImpressaoTexto makes. */
     void sendText(const QString& text) { m_printer.sendText(text.toLatin1()); }
 
     void printHeading();
     void printContingencyBanner();
-    void printItems();
     void printTotals();
     void printPayments();
-    void printAccessKey();
     void printIdentificationAndQrCode();
     void printQrCodeAtTheLeft();
     void printIdentification(const QStringList& lines, bool isBesideQrCode);
@@ -132,7 +120,7 @@ private:
     const QByteArray m_codeTable;
 };
 
-void DanfePrinting::printHeading()
+void OriginalDanfe::printHeading()
 {
     QString heading = m_note.issuerName + '\n' + m_note.issuerCnpjLine;
     if (has(IssuerIe))
@@ -146,13 +134,12 @@ void DanfePrinting::printHeading()
     } else {
         printLine(heading + title, AlignCentre, SmallFont);
     }
-    if (has(Separators))
-        printSeparator(m_columns);
+    printSeparatorIfAsked(m_options, m_columns);
 }
 
 // The blanks print in reverse, as black bars around the two texts. Reverse printing is still on at
 // the end: the reset of the next text ends it, where texts reset (not once a line spacing is stored).
-void DanfePrinting::printContingencyBanner()
+void OriginalDanfe::printContingencyBanner()
 {
     feed(2);
     InicializaImpressora();
@@ -168,22 +155,9 @@ void DanfePrinting::printContingencyBanner()
     feed(1);
 }
 
-void DanfePrinting::printItems()
+void OriginalDanfe::printTotals()
 {
-    printLine(nfceItemHeader(m_options, m_columns), AlignLeft, SmallEmphasised);
-    if (has(Separators))
-        printSeparator(m_columns);
-    QString lines;
-    for (const NfceItem& item : m_note.items)
-        lines += nfceItemLine(item, m_options, m_columns);
-    InicializaImpressora();
-    printLine(lines, AlignLeft, SmallFont);
-}
-
-void DanfePrinting::printTotals()
-{
-    const QString itemCount = QString::number(m_note.items.size());
-    printLine(labelAndValue("Qtde. total de itens", itemCount, m_columns), AlignLeft, SmallFont);
+    printItemCount(m_note, m_columns);
 
     const double discount = amountOf(m_note.discount);
     const double increase =
@@ -205,10 +179,9 @@ void DanfePrinting::printTotals()
               AlignLeft, SmallEmphasised);
 }
 
-void DanfePrinting::printPayments()
+void OriginalDanfe::printPayments()
 {
-    printLine(labelAndValue("FORMA DE PAGAMENTO", "VALOR PAGO R$", m_columns), AlignLeft,
-              SmallFont);
+    printPaymentHeading(m_columns);
     m_printer.send(m_codeTable);
     for (const Payment& payment : m_note.payments)
         printLine(labelAndValue(payment.name, formatDecimalBR(payment.value), m_columns), AlignLeft,
@@ -217,19 +190,10 @@ void DanfePrinting::printPayments()
         print(labelAndValue("Troco R$", formatDecimalBR(m_note.change), m_columns), AlignLeft,
               SmallFont);
     feed(1);
-    endSection();
+    endSection(m_options, m_columns);
 }
 
-void DanfePrinting::printAccessKey()
-{
-    print("Consulte pela Chave de Acesso em\n", AlignCentre, Emphasised);
-    print(m_note.consultationBlock + '\n', AlignCentre, SmallFont);
-    print(blankAfterEveryFour(m_note.accessKey), AlignCentre, SmallFont);
-    InicializaImpressora();
-    feed(1);
-}
-
-void DanfePrinting::printIdentificationAndQrCode()
+void OriginalDanfe::printIdentificationAndQrCode()
 {
     constexpr int longestBesideChars = 119;
     const QStringList lines = identificationLines(m_note);
@@ -255,7 +219,7 @@ void DanfePrinting::printIdentificationAndQrCode()
 }
 
 // Opens page mode, places the QR code and leaves the area to its right for the text.
-void DanfePrinting::printQrCodeAtTheLeft()
+void OriginalDanfe::printQrCodeAtTheLeft()
 {
     constexpr int textTopDots = 50;
     const int contentSize = m_qrContent.size();
@@ -273,7 +237,7 @@ void DanfePrinting::printQrCodeAtTheLeft()
                        CMD_VERTICAL_POSITION + argumentWord(textTopDots)});
 }
 
-void DanfePrinting::printIdentification(const QStringList& lines, bool isBesideQrCode)
+void OriginalDanfe::printIdentification(const QStringList& lines, bool isBesideQrCode)
 {
     constexpr int shortLineChars = 40;
     m_printer.sendAll({CMD_FONT_B_ON, CMD_BOLD_ON, m_codeTable});
@@ -290,7 +254,7 @@ void DanfePrinting::printIdentification(const QStringList& lines, bool isBesideQ
     sendText((isBesideQrCode ? '\n' : ' ') + formatDateTimeBR(lines[IssueLine]));
 }
 
-void DanfePrinting::printAuthorisation(const QStringList& lines)
+void OriginalDanfe::printAuthorisation(const QStringList& lines)
 {
     QString protocol = lines[ProtocolLine];
     protocol.insert(3, QLatin1Char(' '));
@@ -304,7 +268,7 @@ void DanfePrinting::printAuthorisation(const QStringList& lines)
     sendText(formatDateTimeBR(lines[AuthorisationLine]));
 }
 
-void DanfePrinting::printCopyAndContingency()
+void OriginalDanfe::printCopyAndContingency()
 {
     bool& isEstablishments = m_printer.nextCopyIsEstablishments;
     sendText(isEstablishments ? " Via estabelecimento" : " Via consumidor\n");
@@ -319,7 +283,7 @@ void DanfePrinting::printCopyAndContingency()
     feed(1);
 }
 
-void DanfePrinting::printTaxesAndRemarks()
+void OriginalDanfe::printTaxesAndRemarks()
 {
     InicializaImpressora();
     DefinePosicao(AlignCentre);
@@ -327,17 +291,17 @@ void DanfePrinting::printTaxesAndRemarks()
     sendText("Tributos Totais Incidentes(Lei Federal 12.741/2012): R$" + m_note.approximateTaxes);
     feed(1);
     InicializaImpressora();
-    endSection();
+    endSection(m_options, m_columns);
     if (!m_note.taxpayerRemarks.isEmpty())
         printLine(m_note.taxpayerRemarks, AlignCentre, SmallFont);
 }
 
 } // namespace
 
-void printDanfe(PrinterSession& printer, const NfceDocument& note, const QString& qrContent,
-                Emission emission, int options)
+void printOriginalDanfe(PrinterSession& printer, const NfceDocument& note, const QString& qrContent,
+                        Emission emission, int options)
 {
-    DanfePrinting(printer, note, qrContent, emission, options).run();
+    OriginalDanfe(printer, note, qrContent, emission, options).run();
 }
 
 } // namespace q7

@@ -35,7 +35,7 @@ endif()
 # Of the tools alone.
 if(Q7_BUILD_TOOLS)
     q7_linked_library(q7_zint zint.h zint)
-    q7_header_library(q7_stb stb_image_write.h stb)
+    q7_linked_library(q7_lodepng lodepng.h lodepng)
     q7_header_library(q7_cli11 CLI/CLI.hpp)
     if(WIN32)
         q7_header_library(q7_httplib httplib.h)

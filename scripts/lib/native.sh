@@ -2,8 +2,8 @@
 
 readonly library_packages=(cmake ninja-build g++ qtbase5-dev libqt5serialport5-dev
     libqt5xmlpatterns5-dev libasio-dev libsimpleini-dev libxml2-dev)
-readonly printer_packages=(libzint-dev libstb-dev libcli11-dev libcpp-httplib-dev
-    fonts-dejavu-core)
+readonly printer_packages=(libzint-dev liblodepng-dev libfreetype-dev libcli11-dev
+    libcpp-httplib-dev fonts-dejavu-core)
 readonly test_packages=(libgtest-dev libbenchmark-dev libzbar-dev)
 
 # configure PRESET OPTION...: quiet unless it fails.

@@ -1,6 +1,7 @@
 #include "file_job.h"
 
 #include "command_list.h"
+#include "files.h"
 
 namespace virtual_printer
 {

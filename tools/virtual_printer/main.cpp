@@ -1,8 +1,9 @@
 #include "command_log.h"
-#include "font_glyphs.h"
-#include "graphic_file.h"
+#include "files.h"
 #include "options.h"
+#include "png_image.h"
 #include "recorded_connection.h"
+#include "table_glyphs.h"
 
 #include <csignal>
 #include <filesystem>
@@ -49,15 +50,6 @@ void serve(const Options& options, const Workshop& workshop)
         std::filesystem::rename(partial, options.portFile);
     }
     server.run(options.jobs);
-}
-
-std::ifstream openForReading(const std::string& path)
-{
-    std::ifstream file(path, std::ios::binary);
-    if (!file) {
-        throw std::system_error(errno, std::generic_category(), path);
-    }
-    return file;
 }
 
 void drawFile(const Options& options, const Workshop& workshop)
@@ -114,17 +106,14 @@ void run(const Options& options)
     const bool named = input.empty() || options.name != Options().name;
     fs::create_directories(options.output);
 
-    std::unique_ptr<OffscreenApplication> application;
-    std::unique_ptr<FontGlyphs> glyphs;
+    TableGlyphs glyphs;
     Workshop workshop;
     workshop.stem =
         (fs::path(options.output) / (named ? fs::path(options.name) : fs::path(input).stem()))
             .string();
     workshop.say = say;
     if (options.pictures) {
-        application = std::make_unique<OffscreenApplication>();
-        glyphs = std::make_unique<FontGlyphs>(options.fontFile);
-        workshop.glyphs = glyphs.get();
+        workshop.glyphs = &glyphs;
     }
     for (const auto& [key, path] : options.graphicFiles) {
         workshop.graphics[key] = readGraphic(path);
@@ -139,14 +128,6 @@ void run(const Options& options)
 }
 
 } // namespace
-
-#if defined(__SANITIZE_ADDRESS__)
-// Qt's off-screen plugin keeps its screen when the application ends.
-extern "C" const char* __lsan_default_suppressions() // NOLINT(bugprone-reserved-identifier)
-{
-    return "leak:libqoffscreen\nleak:QWindowSystemInterface\nleak:QPlatformScreen\n";
-}
-#endif
 
 int main(int argc, char** argv)
 {

@@ -15,7 +15,7 @@ Links
   --port N            TCP port to listen on; 0 (the default) takes any
   --listen ADDRESS    IPv4 address to listen on, 127.0.0.1 by default
   --no-tcp            no TCP port
-  --serial            serve a pseudo-terminal as serial port
+  --serial            serve a pseudo-terminal as serial port (not on Windows)
   --serial-link PATH  the same, and make PATH a symbolic link to it
   --port-file FILE    write the TCP port number to FILE once it listens
   --jobs N            end after N connections
@@ -27,8 +27,7 @@ Printer
   --state NAME        paper-out, near-end, cover-open, drawer-open or sensor; may be repeated
   --code-table N      code table in force after a reset: 0 (PC437, the default), 2 (PC850),
                       3 (PC860), 16 (Windows 1252) or 19 (PC858)
-  --graphic KEY=FILE  store the image FILE under the two characters KEY; may be repeated
-  --font FILE         monospaced font to draw with instead of DejaVu Sans Mono
+  --graphic KEY=FILE  store the PNG image FILE under the two characters KEY; may be repeated
 Misbehaviour
   --silent            answer no query
   --late MS           answer that late
@@ -145,7 +144,6 @@ Options parseOptions(const std::vector<std::string>& arguments)
               options.graphicFiles[value.substr(0, 2)] = value.substr(3);
           }}},
         {"--code-table", number(options.powerOnCodeTable, 255)},
-        {"--font", text(options.fontFile)},
         {"--silent", flag(behaviour.silent)},
         {"--late", number(behaviour.lateMs)},
         {"--byte-gap", number(behaviour.byteGapMs)},

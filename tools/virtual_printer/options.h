@@ -20,7 +20,6 @@ struct Options {
     std::string output = ".";
     std::string name = "job";
     bool pictures = true;
-    std::string fontFile;
     std::map<std::string, std::string> graphicFiles; // by key
     bool help = false;
 };

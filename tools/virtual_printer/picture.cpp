@@ -1,7 +1,7 @@
 #include "picture.h"
 
-#include <QImage>
-#include <QImageWriter>
+#include "files.h"
+#include "png_image.h"
 
 #include <algorithm>
 #include <stdexcept>
@@ -25,32 +25,32 @@ constexpr std::size_t mostNotes = 500; // of one part; more could not be read
 class Canvas
 {
 public:
-    Canvas(int width, int height) : m_image(width, height, QImage::Format_Indexed8)
+    Canvas(int width, int height)
+        : m_image{width,
+                  height,
+                  {{{255, 255, 255}, {0, 0, 0}, {205, 209, 214}, {150, 30, 20}}},
+                  std::vector<std::uint8_t>(static_cast<std::size_t>(width) *
+                                                static_cast<std::size_t>(height),
+                                            groundColour)}
     {
-        m_image.setColorTable(
-            {qRgb(255, 255, 255), qRgb(0, 0, 0), qRgb(205, 209, 214), qRgb(150, 30, 20)});
-        m_image.fill(groundColour);
-        m_image.setDotsPerMeterX(dotsPerMetre);
-        m_image.setDotsPerMeterY(dotsPerMetre);
     }
 
     void fill(int x, int y, int width, int height, Colour colour)
     {
-        const int right = std::min(x + width, m_image.width());
-        for (int row = y; row < std::min(y + height, m_image.height()); ++row) {
-            std::fill(m_image.scanLine(row) + x, m_image.scanLine(row) + std::max(x, right),
-                      colour);
+        const int right = std::min(x + width, m_image.width);
+        for (int row = y; row < std::min(y + height, m_image.height); ++row) {
+            std::fill(line(row) + x, line(row) + std::max(x, right), colour);
         }
     }
 
     void dots(const std::uint8_t* bits, int count, int x, int y)
     {
-        unsigned char* line = m_image.scanLine(y) + x;
-        for (int at = 0; at < count; at += 8) {
-            const unsigned byte = bits[at / 8];
+        std::uint8_t* at = line(y) + x;
+        for (int first = 0; first < count; first += 8) {
+            const unsigned byte = bits[first / 8];
             for (int dot = 0; byte != 0 && dot < 8; ++dot) {
                 if ((byte & (0x80U >> static_cast<unsigned>(dot))) != 0) {
-                    line[at + dot] = inkColour; // the dots behind the last one are never set
+                    at[first + dot] = inkColour; // the dots behind the last one are never set
                 }
             }
         }
@@ -58,26 +58,25 @@ public:
 
     void glyph(const Bitmap& shape, int x, int y)
     {
-        for (int row = 0; row < shape.height() && y + row < m_image.height(); ++row) {
+        for (int row = 0; row < shape.height() && y + row < m_image.height; ++row) {
             for (int column = 0; column < shape.width(); ++column) {
                 if (shape.at(column, row)) {
-                    m_image.scanLine(y + row)[x + column] = noteColour;
+                    line(y + row)[x + column] = noteColour;
                 }
             }
         }
     }
 
-    void write(const std::string& path)
-    {
-        QImageWriter writer(QString::fromStdString(path), "png");
-        writer.setQuality(60); // for PNG the effort: a long receipt is written twice as fast
-        if (!writer.write(m_image)) {
-            throw std::runtime_error(path + ": " + writer.errorString().toStdString());
-        }
-    }
+    const IndexedImage& image() const { return m_image; }
 
 private:
-    QImage m_image;
+    std::uint8_t* line(int y)
+    {
+        return m_image.pixels.data() +
+               static_cast<std::size_t>(y) * static_cast<std::size_t>(m_image.width);
+    }
+
+    IndexedImage m_image;
 };
 
 struct MarginLine {
@@ -201,7 +200,9 @@ void Picture::writePart(std::string_view ending, bool cut)
 
     m_paths.push_back(m_stem + (m_paths.empty() ? "" : "-" + std::to_string(m_paths.size() + 1)) +
                       ".png");
-    canvas.write(m_paths.back());
+    std::ofstream file = openForWriting(m_paths.back());
+    file << encodePng(canvas.image(), dotsPerMetre);
+    closeWhole(file, m_paths.back());
     m_rows.clear();
     m_rowCount = 0;
     m_notes.clear();

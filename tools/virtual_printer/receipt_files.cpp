@@ -1,20 +1,9 @@
 #include "receipt_files.h"
 
-#include <cerrno>
-#include <stdexcept>
-#include <system_error>
+#include "files.h"
 
 namespace virtual_printer
 {
-
-std::ofstream openForWriting(const std::string& path)
-{
-    std::ofstream file(path, std::ios::binary);
-    if (!file) {
-        throw std::system_error(errno, std::generic_category(), path);
-    }
-    return file;
-}
 
 ReceiptFiles::ReceiptFiles(std::string stem, int widthDots, Glyphs* pictureGlyphs, Written written)
     : m_stem(std::move(stem)),
@@ -82,10 +71,7 @@ void ReceiptFiles::end()
 void ReceiptFiles::endReceipt(Picture::End how)
 {
     m_begun = false;
-    m_text.close();
-    if (!m_text) {
-        throw std::runtime_error(m_textPath + ": could not be written whole");
-    }
+    closeWhole(m_text, m_textPath);
     m_written(m_textPath);
     if (m_picture) {
         for (const std::string& path : m_picture->end(how)) {

@@ -44,7 +44,4 @@ private:
     std::optional<Picture> m_picture;
 };
 
-/** Opens a file for writing. Throws std::system_error. */
-std::ofstream openForWriting(const std::string& path);
-
 } // namespace virtual_printer

@@ -5,7 +5,6 @@
 #include "recorded_connection.h"
 #include "table_glyphs.h"
 
-#include <csignal>
 #include <filesystem>
 #include <iostream>
 
@@ -19,24 +18,12 @@ void say(const std::string& line)
     std::cout << line << std::endl;
 }
 
-Server* runningServer = nullptr;
-
-void onSignal(int)
-{
-    runningServer->stop();
-}
-
 void serve(const Options& options, const Workshop& workshop)
 {
     Server server(options.server, [&](int number) {
         return std::make_unique<FileJob>(workshop, options.server.model, number);
     });
-    runningServer = &server;
-    struct sigaction action = {};
-    action.sa_handler = onSignal;
-    sigaction(SIGINT, &action, nullptr);
-    sigaction(SIGTERM, &action, nullptr);
-
+    server.stopOnSignals();
     if (options.server.tcp) {
         say("port " + std::to_string(server.port()));
     }

@@ -3,10 +3,7 @@
 
 #include "device.h"
 
-#include <atomic>
-#include <chrono>
 #include <functional>
-#include <list>
 #include <map>
 #include <memory>
 #include <mutex>
@@ -56,7 +53,7 @@ struct ServerSettings {
     bool tcp = true;
     std::string address = "127.0.0.1"; // IPv4 address to listen on
     std::uint16_t port = 0;            // 0: any
-    bool serial = false;               // serve a pseudo-terminal too
+    bool serial = false;               // serve a pseudo-terminal too; not on Windows
     std::string serialLink = {};       // symbolic link to the pseudo-terminal; empty for none
 };
 
@@ -73,33 +70,26 @@ public:
     Server(const Server&) = delete;
     Server& operator=(const Server&) = delete;
 
-    std::uint16_t port() const { return m_port; }
+    std::uint16_t port() const;
     /** Path of the serial device; empty without one. */
-    const std::string& serialPath() const { return m_serialPath; }
+    const std::string& serialPath() const;
 
     /** Serves until stop(), or until so many jobs have ended (0: no such limit). */
     void run(int jobs = 0);
-    /** Ends run(); may be called from any thread and from a signal handler. */
+    /** Ends run(), also one that is yet to begin; may be called from any thread. */
     void stop();
+    /** From now on, while this lives, the signals by which a user ends a program end run(). */
+    void stopOnSignals();
 
     void setState(const State& state);
     void setBehaviour(const Behaviour& behaviour);
 
 private:
-    using Clock = std::chrono::steady_clock;
-    struct Connection;
-    enum class Reading { Open, Ended };
+    class Connection;
+    struct Links;
 
-    void listenOnTcp(const ServerSettings& settings);
-    void openSerial(const std::string& link);
-    void acceptConnection();
-    Reading readFrom(Connection& connection);
-    void answer(Connection& connection, const Command& command);
-    void sendDue(Connection& connection);
-    void sendUnasked(Connection& connection);
-    void begin(Connection& connection);
-    void awaitUnasked(Connection& connection);
-    void end(Connection& connection);
+    void acceptNext();
+    void jobEnded();
     Behaviour behaviour() const;
     State state() const;
 
@@ -108,15 +98,10 @@ private:
     mutable std::mutex m_mutex;
     State m_state;
     Behaviour m_behaviour;
-    std::uint16_t m_port = 0;
-    std::string m_serialPath;
-    std::string m_serialLink;
-    int m_listener = -1;
-    int m_wakeRead = -1;
-    int m_wakeWrite = -1;
-    std::list<Connection> m_connections;
     int m_jobsBegun = 0;
     int m_jobsEnded = 0;
+    int m_jobsWanted = 0;
+    std::unique_ptr<Links> m_links;
 };
 
 } // namespace virtual_printer

@@ -27,4 +27,3 @@ endfunction()
 
 file(WRITE ${PROJECT_BINARY_DIR}/features.txt "") # for the scripts
 q7_feature(SERIAL SerialPort "serial ports")
-q7_feature(XSD XmlPatterns "schema validation")

@@ -1,13 +1,15 @@
-# A 32-bit Wine, the system's own or one in an i386 Debian tree of its own. Sourced after debian.sh.
+# A Wine that runs 32-bit and 64-bit programs, the system's own or one in an i386 Debian tree of its
+# own. Sourced after debian.sh.
 #
 #   prepare_wine          makes it ready; ends the script as unavailable when the archive lacks it
 #   in_wine COMMAND...    runs a command where `wine` is, with paths as outside
 
-wine_tree=$(cache_folder)/wine-i386
+wine_tree=$(cache_folder)/wine
 
-# Only a Wine that brings 32-bit libraries runs the DLL; Debian's `wine` alone may be 64-bit.
+# Debian's `wine` alone may have the libraries of one width only.
 has_system_wine() {
-    command -v wine >/dev/null && [ -e /usr/lib/i386-linux-gnu/wine/i386-windows/kernel32.dll ]
+    command -v wine >/dev/null && [ -e /usr/lib/i386-linux-gnu/wine/i386-windows/kernel32.dll ] &&
+        [ -e /usr/lib/x86_64-linux-gnu/wine/x86_64-unix/ntdll.so ]
 }
 
 # The archive that this machine itself uses, as one base address.
@@ -60,9 +62,10 @@ make_wine_tree() {
         cp /etc/resolv.conf /etc/hosts "$wine_tree/etc/"
         say "installing Wine in it"
         in_tree sh -c 'export DEBIAN_FRONTEND=noninteractive
-            apt-get update -q && apt-get install -q -y --no-install-recommends wine wine32' \
+            dpkg --add-architecture amd64 && apt-get update -q &&
+            apt-get install -q -y --no-install-recommends wine wine32 wine64:amd64' \
             >>"$log" 2>&1 ||
-            tree_failed "the packages wine and wine32 for i386" '^(E|W|Err).*(fetch|locate|resolve)'
+            tree_failed "the packages wine, wine32 and wine64" '^(E|W|Err).*(fetch|locate|resolve)'
         touch "$wine_tree.installed"
     fi
     flock -u 8
@@ -72,7 +75,7 @@ prepare_wine() {
     if has_system_wine; then
         in_wine() { "$@"; }
     else
-        [ "$(id -u)" -eq 0 ] || fail "run as root, or install a 32-bit Wine first"
+        [ "$(id -u)" -eq 0 ] || fail "run as root, or install wine32 and wine64 first"
         make_wine_tree
         in_wine() { in_tree "$@"; }
     fi

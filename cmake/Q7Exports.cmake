@@ -36,7 +36,8 @@ function(q7_export_decorated target list_file components)
     add_custom_command(
         OUTPUT ${definition}
         COMMAND ${CMAKE_COMMAND} -D NM=${CMAKE_NM} -D LIBRARY=${target} -D EXPORTS=${list_file}
-            "-D ARCHIVES=$<JOIN:${archives},|>" -D OUTPUT=${definition} -P ${script}
+            "-D ARCHIVES=$<JOIN:${archives},|>" -D OUTPUT=${definition}
+            -D STDCALL=$<EQUAL:${CMAKE_SIZEOF_VOID_P},4> -P ${script}
         DEPENDS ${list_file} ${script} ${components} ${archives}
         COMMENT "Listing the exports of ${target}"
         VERBATIM)

@@ -1,19 +1,3 @@
-# Cross compiling for 32-bit Windows with Debian's mingw-w64. Qt for Windows is found through
-# CMAKE_PREFIX_PATH (scripts/build-windows builds one).
-set(CMAKE_SYSTEM_NAME Windows)
+# Cross compiling for 32-bit Windows.
 set(CMAKE_SYSTEM_PROCESSOR i686)
-
-set(triplet i686-w64-mingw32)
-# The variant with POSIX threads, whichever one the machine takes by default: only it has
-# std::thread.
-set(CMAKE_C_COMPILER ${triplet}-gcc-posix)
-set(CMAKE_CXX_COMPILER ${triplet}-g++-posix)
-set(CMAKE_RC_COMPILER ${triplet}-windres)
-
-# Programs come from this machine, everything else from the target's folders.
-list(APPEND CMAKE_TRY_COMPILE_PLATFORM_VARIABLES CMAKE_PREFIX_PATH)
-set(CMAKE_FIND_ROOT_PATH /usr/${triplet} ${CMAKE_PREFIX_PATH})
-set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
-set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
-set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
-set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
+include(${CMAKE_CURRENT_LIST_DIR}/mingw-w64.cmake)

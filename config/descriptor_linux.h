@@ -1,0 +1,27 @@
+// Keeps what the library opens away from the standard descriptors.
+#pragma once
+
+#include <cerrno>
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace q7
+{
+
+/** The same open file under a descriptor above 2. To be called on whatever was just opened: in a
+ *  program that closed 0, 1 or 2, the system gives out these numbers again, and what the program
+ *  prints would reach the printer or the log.
+ *  Takes the descriptor over: one that is replaced is closed, -1 stays -1. Returns -1 with errno
+ *  when there is no other to be had. */
+inline int aboveStandard(int descriptor)
+{
+    if (descriptor < 0 || descriptor > STDERR_FILENO)
+        return descriptor;
+    const int replacement = ::fcntl(descriptor, F_DUPFD_CLOEXEC, STDERR_FILENO + 1);
+    const int error = errno;
+    ::close(descriptor);
+    errno = error;
+    return replacement;
+}
+
+} // namespace q7

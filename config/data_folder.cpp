@@ -2,25 +2,39 @@
 
 #include "registered_data_folder.h"
 
-#include <QDir>
+#include <string_view>
 
 namespace q7
 {
-
-QString dataFolder()
+namespace
 {
-    QString registered = registeredDataFolder();
-    if (!registered.isEmpty() && QDir(registered).exists())
-        return registered;
-    return QDir::currentPath() + QLatin1Char('/');
+
+// Empty where the working folder is the data folder.
+NativePath usableRegisteredFolder()
+{
+    NativePath folder = registeredDataFolder();
+    if (!folder.empty() && !folderExists(folder))
+        folder.clear();
+    return folder;
 }
 
-QString pathInDataFolder(const QString& fileName)
+} // namespace
+
+NativePath dataFolder()
 {
-    QString path = dataFolder();
-    if (!path.endsWith(QLatin1Char('/')) && !path.endsWith(QLatin1Char('\\')))
-        path += QLatin1Char('/');
-    return path + fileName;
+    NativePath folder = usableRegisteredFolder();
+    if (folder.empty())
+        (folder = workingFolder()) += '/';
+    return folder;
+}
+
+NativePath pathInDataFolder(const char* fileName)
+{
+    NativePath path = usableRegisteredFolder();
+    if (!path.empty() && path.back() != '/' && path.back() != '\\')
+        path += '/';
+    const std::string_view name(fileName);
+    return path.append(name.begin(), name.end());
 }
 
 } // namespace q7

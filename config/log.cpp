@@ -1,9 +1,12 @@
 #include "log.h"
 
-#include "registered_data_folder.h"
+#include "data_folder.h"
+#include "local_time.h"
 
-#include <QDateTime>
+#include <algorithm>
+#include <atomic>
 #include <cstdio>
+#include <cstring>
 
 namespace q7
 {
@@ -17,50 +20,91 @@ const char* tagOf(int kind)
 {
     switch (kind) {
     case static_cast<int>(LogKind::SentCommands):
-        return "COMANDOSENVIADOS].....[";
+        return ".....[COMANDOSENVIADOS].....[";
     case static_cast<int>(LogKind::Function):
-        return "FUNCAO]...............[";
+        return ".....[FUNCAO]...............[";
     case static_cast<int>(LogKind::Information):
-        return "INFO]................[";
+        return ".....[INFO]................[";
     default:
-        return "LOGINDEFINIDO]........[";
+        return ".....[LOGINDEFINIDO]........[";
     }
 }
 
-enum class Known { No, Off, On };
+/** The path of the log while it is on, else empty. */
+NativePath findLog()
+{
+    NativePath path = pathInDataFolder(logFileName);
+    if (!fileExists(path))
+        path.clear();
+    return path;
+}
 
-// What the call under way found. As all of the library, for one thread at a time.
-Known knownState = Known::No;
+// The call under way. Exports of several threads take turns.
+std::atomic<const LogCall*> callUnderWay{nullptr};
+
+void appendNumber(QByteArray& line, int number, int digits, char behind)
+{
+    for (int divisor = digits == 4 ? 1000 : digits == 3 ? 100 : 10; divisor > 0; divisor /= 10)
+        line += static_cast<char>('0' + number / divisor % 10);
+    line += behind;
+}
+
+QByteArray makeLine(int kind, const char* message)
+{
+    const char* tag = tagOf(kind);
+    const std::size_t length = std::strlen(message);
+    QByteArray line;
+    line.reserve(static_cast<int>(length) + 64);
+    const LocalTime now = localTime();
+    line += '[';
+    appendNumber(line, now.day, 2, '.');
+    appendNumber(line, now.month, 2, '.');
+    appendNumber(line, now.year, 4, '-');
+    appendNumber(line, now.hour, 2, ':');
+    appendNumber(line, now.minute, 2, ':');
+    appendNumber(line, now.second, 2, '.');
+    appendNumber(line, now.millisecond, 3, ']');
+    line += tag;
+    const auto isAscii = [](char c) { return static_cast<signed char>(c) >= 0; };
+    if (std::all_of(message, message + length, isAscii))
+        line.append(message, static_cast<int>(length));
+    else
+        line += QString::fromUtf8(message).toUtf8();
+    return line += "]\n";
+}
 
 } // namespace
 
-bool logIsOn()
+LogCall::LogCall()
 {
-    return knownState == Known::No ? existsInDataFolder(logFileName) : knownState == Known::On;
-}
-
-LogCall::LogCall() : m_isOutermost(knownState == Known::No)
-{
-    if (m_isOutermost)
-        knownState = existsInDataFolder(logFileName) ? Known::On : Known::Off;
+    if (callUnderWay == nullptr) {
+        m_logPath = findLog();
+        callUnderWay = this;
+    }
 }
 
 LogCall::~LogCall()
 {
-    if (m_isOutermost)
-        knownState = Known::No;
+    if (callUnderWay == this)
+        callUnderWay = nullptr;
+}
+
+bool logIsOn()
+{
+    const LogCall* call = callUnderWay;
+    return call == nullptr ? !findLog().empty() : !call->m_logPath.empty();
 }
 
 void writeLog(int kind, const char* message)
 {
-    if (!logIsOn())
+    const LogCall* call = callUnderWay;
+    const NativePath found = call == nullptr ? findLog() : NativePath();
+    const NativePath& path = call == nullptr ? found : call->m_logPath;
+    if (path.empty())
         return;
 
-    const QString time = QDateTime::currentDateTime().toString("dd.MM.yyyy-hh:mm:ss.zzz");
-    const QString line = '[' + time + "].....[" + tagOf(kind) + QString::fromUtf8(message) + "]\n";
-
     // Opened for each line, so that an operator can move the file away while the library is loaded.
-    if (!appendInDataFolder(logFileName, line.toUtf8())) {
+    if (!appendToFile(path, makeLine(kind, message))) {
         std::fputs("Erro ao abrir arquivo!\n", stdout);
         std::fflush(stdout);
     }

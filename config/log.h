@@ -1,6 +1,8 @@
 // The log: switched on by the presence of "log_q7.txt" in the data folder.
 #pragma once
 
+#include "file_access.h"
+
 #include <QString>
 
 namespace q7
@@ -12,11 +14,8 @@ enum class LogKind : int {
     Information = 3,
 };
 
-/** Whether the log is on. Callers that would compose a text for it ask first. */
-bool logIsOn();
-
-/** While one lives, whether the log is on is known from its beginning: the lines of one call ask
- *  the file system once, not each. */
+/** While one lives, where the log is and whether it is on is known from the outermost's beginning:
+ *  the lines of one call ask for it once, not each. Those of two threads must not overlap. */
 class LogCall
 {
 public:
@@ -26,8 +25,14 @@ public:
     LogCall& operator=(const LogCall&) = delete;
 
 private:
-    bool m_isOutermost;
+    friend bool logIsOn();
+    friend void writeLog(int kind, const char* message);
+
+    NativePath m_logPath; // of the outermost; empty while the log is off
 };
+
+/** Whether the log is on. Callers that would compose a text for it ask first. */
+bool logIsOn();
 
 /** Appends one line to the log; does nothing when the file does not exist, which is never created.
  *  kind: a LogKind, any other value is tagged as undefined. message: UTF-8, to its first zero byte;

@@ -1,73 +1,63 @@
 #include "registered_data_folder.h"
 
-#include <QFile>
-#include <QSettings>
-#include <QStringList>
-
 #include <windows.h>
-
-#include <string>
 
 namespace q7
 {
 namespace
 {
 
-// Most machines have no key at all; then nothing else is asked.
-bool keyExistsInOwnView()
+/** The key, open for reading; null when it is not there. Nothing is ever made by asking. */
+class Key
 {
-    HKEY key = nullptr;
-    if (::RegOpenKeyExW(HKEY_LOCAL_MACHINE, L"SOFTWARE\\Q7", 0, KEY_QUERY_VALUE, &key) !=
-        ERROR_SUCCESS)
-        return false;
-    ::RegCloseKey(key);
-    return true;
-}
+public:
+    explicit Key(REGSAM view)
+    {
+        if (::RegOpenKeyExW(HKEY_LOCAL_MACHINE, L"SOFTWARE\\Q7", 0, KEY_QUERY_VALUE | view,
+                            &m_key) != ERROR_SUCCESS)
+            m_key = nullptr;
+    }
+    ~Key()
+    {
+        if (m_key != nullptr)
+            ::RegCloseKey(m_key);
+    }
+    Key(const Key&) = delete;
+    Key& operator=(const Key&) = delete;
 
-bool isFolder(const std::wstring& path)
-{
-    const DWORD attributes = ::GetFileAttributesW(path.c_str());
-    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
-}
+    bool exists() const { return m_key != nullptr; }
 
-// The file's path in the data folder, or its bare name in the working folder.
-std::wstring pathOf(const char* fileName)
-{
-    std::wstring path = registeredDataFolder().toStdWString();
-    if (path.empty() || !isFolder(path))
-        path.clear();
-    else if (path.back() != L'/' && path.back() != L'\\')
-        path += L'/';
-    return path.append(fileName, fileName + std::char_traits<char>::length(fileName));
-}
+    /** A text as it stands: variables in it are not replaced. Empty when there is none. */
+    std::wstring text(const wchar_t* name) const
+    {
+        constexpr DWORD texts = RRF_RT_REG_SZ | RRF_RT_REG_EXPAND_SZ | RRF_NOEXPAND;
+        std::wstring value(MAX_PATH, L'\0');
+        LSTATUS status = ERROR_MORE_DATA;
+        while (status == ERROR_MORE_DATA) {
+            auto size = static_cast<DWORD>(value.size() * sizeof(wchar_t));
+            status = ::RegGetValueW(m_key, nullptr, name, texts, nullptr, value.data(), &size);
+            if (status == ERROR_MORE_DATA)
+                value.resize(size / sizeof(wchar_t) + 1);
+        }
+        value.resize(status == ERROR_SUCCESS ? std::wcslen(value.c_str()) : 0);
+        return value;
+    }
+
+private:
+    HKEY m_key = nullptr;
+};
 
 } // namespace
 
 // The key is looked for in the process's own view of the registry and read in the 64-bit one:
-// installers write the value there and make the key in both.
-QString registeredDataFolder()
+// installers write the value there and make the key in both. Most machines have no key at all; then
+// nothing else is asked.
+NativePath registeredDataFolder()
 {
-    if (!keyExistsInOwnView())
+    if (!Key(0).exists())
         return {};
-    const QSettings key("HKEY_LOCAL_MACHINE\\SOFTWARE\\Q7", QSettings::Registry64Format);
-    return key.value("data_path").toString();
-}
-
-// No look at the folder's contents: one question to the file system for the folder, one for the
-// file.
-bool existsInDataFolder(const char* fileName)
-{
-    return ::GetFileAttributesW(pathOf(fileName).c_str()) != INVALID_FILE_ATTRIBUTES;
-}
-
-bool appendInDataFolder(const char* fileName, const QByteArray& bytes)
-{
-    QFile file(QString::fromStdWString(pathOf(fileName)));
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::ExistingOnly |
-                   QIODevice::Unbuffered))
-        return !existsInDataFolder(fileName);
-    file.write(bytes);
-    return true;
+    const Key key(KEY_WOW64_64KEY);
+    return key.exists() ? key.text(L"data_path") : NativePath();
 }
 
 } // namespace q7

@@ -1,10 +1,9 @@
 #include "printer_models.h"
 
-#include "config_file.h"
 #include "data_folder.h"
+#include "ini_file.h"
 #include "log.h"
 
-#include <QFile>
 #include <algorithm>
 #include <iterator>
 
@@ -41,7 +40,7 @@ constexpr PrinterModel builtInModels[] = {
 std::vector<PrinterModel> buildTable()
 {
     std::vector<PrinterModel> models(std::begin(builtInModels), std::end(builtInModels));
-    applyUsbIdentifiers(models, pathInDataFolder("q7_usb.ini"));
+    applyUsbIdentifiers(models, IniFile(pathInDataFolder("q7_usb.ini")));
     return models;
 }
 
@@ -52,21 +51,21 @@ template <typename Predicate> const PrinterModel* findModel(Predicate predicate)
     return row == models.end() ? nullptr : &*row;
 }
 
-void readIdentifier(const QSettings& settings, const PrinterModel& model, const char* key,
+void readIdentifier(const IniFile& settings, const PrinterModel& model, const char* key,
                     quint16& identifier)
 {
-    const QString path = QLatin1String(model.name) + '/' + QLatin1String(key);
-    if (!settings.contains(path))
+    const std::optional<QString> text = settings.value(model.name, key);
+    if (!text)
         return;
-    const QString text = settings.value(path).toString();
-    const bool isHex = std::all_of(text.begin(), text.end(), [](QChar c) {
+    const bool isHex = std::all_of(text->begin(), text->end(), [](QChar c) {
         return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'F') || (c >= 'a' && c <= 'f');
     });
-    if (text.isEmpty() || text.size() > 4 || !isHex) {
-        writeLog(LogKind::Information, "q7_usb.ini: " + path + " IGNORADO: " + text);
+    if (text->isEmpty() || text->size() > 4 || !isHex) {
+        writeLog(LogKind::Information,
+                 QString("q7_usb.ini: ") + model.name + '/' + key + " IGNORADO: " + *text);
         return;
     }
-    identifier = text.toUShort(nullptr, 16);
+    identifier = text->toUShort(nullptr, 16);
 }
 
 } // namespace
@@ -99,11 +98,8 @@ QString makeUsbIdText(const QString& modelName)
     return ("VID_" + vendor + "&PID_" + product).toUpper();
 }
 
-void applyUsbIdentifiers(std::vector<PrinterModel>& models, const QString& iniPath)
+void applyUsbIdentifiers(std::vector<PrinterModel>& models, const IniFile& settings)
 {
-    if (!QFile::exists(iniPath))
-        return;
-    const IniFile settings(iniPath);
     for (PrinterModel& model : models) {
         readIdentifier(settings, model, "vendor_id", model.vendorId);
         readIdentifier(settings, model, "product_id", model.productId);

@@ -1,6 +1,8 @@
 // The table of printer models: names, USB identifiers and layout values.
 #pragma once
 
+#include "ini_file.h"
+
 #include <QByteArray>
 #include <QString>
 #include <vector>
@@ -45,7 +47,7 @@ QString makeUsbIdText(const QString& modelName);
 
 /** Replaces the USB identifiers of rows by those of an INI file: a group per model name, keys
  *  "vendor_id" and "product_id" of one to four hexadecimal digits. Anything else is ignored and
- *  logged. A missing file changes nothing. */
-void applyUsbIdentifiers(std::vector<PrinterModel>& models, const QString& iniPath);
+ *  logged. */
+void applyUsbIdentifiers(std::vector<PrinterModel>& models, const IniFile& settings);
 
 } // namespace q7

@@ -1,14 +1,11 @@
-// The data folder, the settings file and the log.
+// The data folder and the settings file.
 
 #include "config_file.h"
 #include "data_folder.h"
-#include "log.h"
 
 #include "temporary_folder.h"
 
 #include <gtest/gtest.h>
-#include <set>
-#include <sstream>
 #include <unistd.h>
 
 using namespace q7test;
@@ -37,54 +34,49 @@ TEST(Folder, IsTheRegisteredOneWhenItExists)
     const TemporaryFolder folder;
     folder.write("file", "");
     unsetenv("Q7_DATA_PATH");
-    EXPECT_EQ(workingFolder(), text(q7::dataFolder()));
+    EXPECT_EQ(workingFolder(), q7::dataFolder());
     for (const std::string& path :
          {std::string(), folder.path() + "/missing", folder.path() + "/file"}) {
         setDataPath(path);
-        EXPECT_EQ(workingFolder(), text(q7::dataFolder())) << path;
+        EXPECT_EQ(workingFolder(), q7::dataFolder()) << path;
     }
     setDataPath(folder.path()); // as it stands, without a separator
-    EXPECT_EQ(folder.path(), text(q7::dataFolder()));
-    EXPECT_EQ(folder.path() + "q7_conf.ini", text(q7::configFilePath()));
-    EXPECT_EQ(folder.path() + "/log", text(q7::pathInDataFolder("log")));
+    EXPECT_EQ(folder.path(), q7::dataFolder());
+    EXPECT_EQ(folder.path() + "q7_conf.ini", q7::configFilePath());
+    EXPECT_EQ(folder.path() + "/log", q7::pathInDataFolder("log"));
     setDataPath(folder.path() + '/');
-    EXPECT_EQ(folder.path() + "/q7_conf.ini", text(q7::configFilePath()));
-    EXPECT_EQ(folder.path() + "/log", text(q7::pathInDataFolder("log")));
+    EXPECT_EQ(folder.path() + "/q7_conf.ini", q7::configFilePath());
+    EXPECT_EQ(folder.path() + "/log", q7::pathInDataFolder("log"));
 }
 
-// Other programs of the family read the file: its groups, keys and texts, to the letter.
+// Other programs of the family read the file: to the letter as Qt's settings class would write it,
+// but for the order, which is theirs.
 TEST(ConfigFile, IsMadeWithEveryDefault)
 {
     const DataFolder data(DataFolder::Log::Off);
     EXPECT_TRUE(q7::ensureConfigFile());
-    std::istringstream file(data.read("q7_conf.ini"));
-    std::set<std::string> settings; // in the order of the file's writer
-    std::string group;
-    for (std::string line; std::getline(file, line);)
-        if (!line.empty() && line.front() == '[')
-            group = line;
-        else if (!line.empty())
-            settings.insert(group + line);
-    const std::string folder = "C:/Program Files (x86)/Q7/";
-    const std::set<std::string> expected = {
-        "[configuracao_impressora]caminho_biblioteca=" + folder + "Q7_Impressora.dll",
-        "[configuracao_impressora]caminho_xsd=" + folder,
-        "[configuracao_sat]gerencia_XML=0",
-        "[configuracao_sat]caminho_XML=",
-        "[configuracao_sat]caminho_biblioteca_sat=" + folder + "dllsat.dll",
-        "[configuracao_sat]caminho_biblioteca_q7_sat=" + folder + "Q7_SAT.dll",
-        "[configuracao_service]porta=89",
-        "[configuracao_service]modoComunicacao=1",
-        "[configuracao_service]tipoComando=0",
-        "[configuracao_service]path_file_in=" + folder + "pathIN/",
-        "[configuracao_service]path_file_out=" + folder + "pathOUT/",
-        "[configuracao_service]separadorFuncoes=*|*",
-        "[configuracao_service]separadorValores=:|",
-        "[configuracao_etiqueta]caminho_biblioteca=" + folder + "Q7_Etiqueta.dll",
-        "[configuracao_geral]log=0",
-        "[configuracao_geral]caminho_log=" + folder,
-    };
-    EXPECT_EQ(expected, settings);
+    EXPECT_EQ("[configuracao_impressora]\n"
+              "caminho_biblioteca=C:/Program Files (x86)/Q7/Q7_Impressora.dll\n"
+              "caminho_xsd=C:/Program Files (x86)/Q7/\n"
+              "\n[configuracao_sat]\n"
+              "gerencia_XML=0\n"
+              "caminho_XML=\n"
+              "caminho_biblioteca_sat=C:/Program Files (x86)/Q7/dllsat.dll\n"
+              "caminho_biblioteca_q7_sat=C:/Program Files (x86)/Q7/Q7_SAT.dll\n"
+              "\n[configuracao_service]\n"
+              "porta=89\n"
+              "modoComunicacao=1\n"
+              "tipoComando=0\n"
+              "path_file_in=C:/Program Files (x86)/Q7/pathIN/\n"
+              "path_file_out=C:/Program Files (x86)/Q7/pathOUT/\n"
+              "separadorFuncoes=*|*\n"
+              "separadorValores=:|\n"
+              "\n[configuracao_etiqueta]\n"
+              "caminho_biblioteca=C:/Program Files (x86)/Q7/Q7_Etiqueta.dll\n"
+              "\n[configuracao_geral]\n"
+              "log=0\n"
+              "caminho_log=C:/Program Files (x86)/Q7/\n",
+              data.read("q7_conf.ini"));
 }
 
 TEST(ConfigFile, ThatExistsIsLeftAsItIs)
@@ -101,7 +93,7 @@ TEST(ConfigFile, ThatExistsIsLeftAsItIs)
     EXPECT_EQ(90, q7::config::porta(settings));
     EXPECT_EQ(0, q7::config::modoComunicacao(settings));
     // What it lacks is not written, and reads as its default.
-    const std::pair<QString (*)(const QSettings&), std::string> lacking[] = {
+    const std::pair<q7::config::Text, std::string> lacking[] = {
         {q7::config::caminhoBiblioteca, "C:/Program Files (x86)/Q7/Q7_Impressora.dll"},
         {q7::config::caminhoBibliotecaEtiqueta, "C:/Program Files (x86)/Q7/Q7_Etiqueta.dll"},
         {q7::config::caminhoBibliotecaSat, "C:/Program Files (x86)/Q7/dllsat.dll"},
@@ -115,7 +107,7 @@ TEST(ConfigFile, ThatExistsIsLeftAsItIs)
     };
     for (const auto& [getter, value] : lacking)
         EXPECT_EQ(value, text(getter(settings)));
-    for (const auto getter : {q7::config::gerenciaXml, q7::config::tipoComando, q7::config::log})
+    for (const auto& getter : {q7::config::gerenciaXml, q7::config::tipoComando, q7::config::log})
         EXPECT_EQ(0, getter(settings));
 }
 
@@ -123,50 +115,6 @@ TEST(ConfigFile, ThatCannotBeMadeIsReported)
 {
     setDataPath("/proc/");
     EXPECT_FALSE(q7::ensureConfigFile());
-}
-
-TEST(Log, LinesCarryTheirKind)
-{
-    DataFolder data;
-    q7::writeLog(1, "1B40");
-    q7::writeLog(2, "Corte. PARAMETROS:3");
-    q7::writeLog(3, "Biblioteca");
-    q7::writeLog(0, "nada");
-    q7::writeLog(7, "ação \xFF]\n[");
-    q7::writeLog(2, "");
-    EXPECT_EQ((std::vector<std::string>{"COMANDOSENVIADOS 1B40", "FUNCAO Corte. PARAMETROS:3",
-                                        "INFO Biblioteca", "LOGINDEFINIDO nada",
-                                        "LOGINDEFINIDO ação \uFFFD", "MALFORMED [", "FUNCAO "}),
-              data.takeLog());
-}
-
-TEST(Log, IsOnWhileItsFileExists)
-{
-    DataFolder data(DataFolder::Log::Off);
-    setDataPath(data.path()); // the separator is added
-    const auto expectOff = [&data] {
-        q7::writeLog(2, "nada");
-        EXPECT_NE(0, access((data.path() + "/log_q7.txt").c_str(), F_OK));
-        EXPECT_FALSE(q7::logIsOn());
-    };
-    expectOff();
-    data.write("log_q7.txt", "");
-    q7::writeLog(2, "one");
-    EXPECT_EQ(std::vector<std::string>{"FUNCAO one"}, data.takeLog());
-    data.stopLog();
-    expectOff();
-}
-
-TEST(Log, ThatCannotBeOpenedIsToldOnStandardOutput)
-{
-    const TemporaryFolder data;
-    ASSERT_EQ(0, std::system(("mkdir " + data.path() + "/log_q7.txt").c_str()));
-    setDataPath(data.path());
-    testing::internal::CaptureStdout();
-    q7::writeLog(2, "one");
-    q7::writeLog(2, "two");
-    EXPECT_EQ("Erro ao abrir arquivo!\nErro ao abrir arquivo!\n",
-              testing::internal::GetCapturedStdout());
 }
 
 } // namespace

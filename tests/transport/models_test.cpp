@@ -53,7 +53,7 @@ TEST(Models, TakeTheIdentifiersOfASite)
                            "[TESMO]\nproduct_id=FfFf\nvendor_id=\n"
                            "[XPTO]\nvendor_id=1\n");
     std::vector<PrinterModel> models = modelTable();
-    applyUsbIdentifiers(models, QString::fromStdString(data.path() + "/site.ini"));
+    applyUsbIdentifiers(models, IniFile(data.path() + "/site.ini"));
     EXPECT_EQ(0x0ABC, models[0].vendorId);
     EXPECT_EQ(0x0012, models[0].productId);
     EXPECT_EQ(modelById(1)->vendorId, models[1].vendorId);

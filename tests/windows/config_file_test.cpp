@@ -2,7 +2,6 @@
 #include "config_file.h"
 #include "data_folder.h"
 
-#include <QFile>
 #include <cstdio>
 
 namespace
@@ -23,8 +22,9 @@ int main(int argc, char** argv)
 {
     if (argc != 2)
         return 2;
-    check("data folder from the registry", q7::dataFolder() == QString::fromUtf8(argv[1]));
-    QFile::remove(q7::configFilePath());
+    check("data folder from the registry",
+          QString::fromStdWString(q7::dataFolder()) == QString::fromUtf8(argv[1]));
+    _wremove(q7::configFilePath().c_str());
     check("settings file made", q7::ensureConfigFile());
     check("default read back", q7::config::caminhoXsd(q7::IniFile(q7::configFilePath())) ==
                                    "C:/Program Files (x86)/Q7/");

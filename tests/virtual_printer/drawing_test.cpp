@@ -56,11 +56,15 @@ protected:
     }
     ~Drawing() override { std::filesystem::remove_all(m_folder); }
 
-    void draw(const std::string& stream, const char* model = "VANTA", Graphics graphics = {})
+    void draw(const std::string& stream, const char* model = "VANTA", Graphics graphics = {},
+              Language language = Language::English)
     {
-        m_said.clear();
-        const Workshop workshop{(m_folder / "job").string(), &glyphs, std::move(graphics),
-                                [this](const std::string& line) { m_said.push_back(line); }};
+        m_wrote.clear();
+        Workshop workshop{(m_folder / "job").string(),
+                          {&glyphs, Picture::Frame::WithNotes, language},
+                          std::move(graphics)};
+        workshop.wrote = [this](const std::string& path) { m_wrote.push_back(path); };
+        workshop.ended = [this](const JobEnd& end) { m_end = end; };
         RecordedConnection connection(workshop, *findModel(model), 1);
         connection.received(stream);
         connection.end();
@@ -78,7 +82,8 @@ protected:
     }
 
     std::filesystem::path m_folder;
-    std::vector<std::string> m_said;
+    std::vector<std::string> m_wrote;
+    JobEnd m_end = {};
 };
 
 /** What an independent reader finds in the picture: "QR-Code:text". */
@@ -218,8 +223,9 @@ TEST_F(Drawing, EveryStyleLooksAsInTheReferencePicture)
 TEST_F(Drawing, ACutEndsAReceipt)
 {
     draw(bytes("'one' 0A 1D 56 00 1D 56 00 'two' 0A 1B 7A 'three'"));
-    EXPECT_EQ(m_said.size(), 5U) << "a text and a picture of each of two receipts, and the end";
-    EXPECT_EQ(m_said.back(), "job 1 ended, not understood: 1, the first at byte 14");
+    EXPECT_EQ(m_wrote.size(), 4U) << "a text and a picture of each of two receipts";
+    EXPECT_EQ(m_end.faults, 1);
+    EXPECT_EQ(m_end.firstFault, 14U);
     EXPECT_EQ(file("job-1-1.txt").substr(0, 4), "one\n");
     EXPECT_EQ(file("job-1-2.txt"), "two\n");
     EXPECT_NE(file("job-1.list")
@@ -228,6 +234,25 @@ TEST_F(Drawing, ACutEndsAReceipt)
               std::string::npos)
         << file("job-1.list");
     EXPECT_EQ(file("job-1.bin").size(), 21U);
+}
+
+TEST_F(Drawing, SpeaksPortugueseToWhoReadsIt)
+{
+    draw(bytes("1D 28 6B 03 00 31 43 10 1D 28 6B 63 00 31 50 30") + std::string(96, 'q') +
+             bytes("1D 28 6B 03 00 31 51 30 1B 70 30 64 64 'fim'"),
+         "VANTA", {}, Language::Portuguese);
+    const std::string tooWide =
+        "QR Code não impresso: tem 592 pontos de largura, e há lugar para 576";
+    EXPECT_EQ(file("job-1-1.txt"),
+              "[" + tooWide + "]\n[gaveta 0: 200 ms ligada, 200 ms desligada]\n");
+    const std::string list = file("job-1.list");
+    EXPECT_EQ(list.substr(list.find("     112")),
+              "     112  1D 28 6B 03 00 31 51 30           GS ( k                    imprime QR "
+              "Code\n     112  >> " +
+                  tooWide +
+                  "\n     120  1B 70 30 64 64                    ESC p 48 100 100          "
+                  "gaveta\n     125  \"fim\"\n     128  >> o fim da conexão joga fora o que foi "
+                  "recebido no byte 125 e ainda não foi impresso: fim\n");
 }
 
 TEST_F(Drawing, ALongReceiptIsSplitBetweenLines)
@@ -255,11 +280,12 @@ TEST_F(Drawing, HostileStreamsDoNoHarm)
         const std::string stream = hostileStream(seed, 20'000, everyStyle()) +
                                    std::string(70'000, '\0') + bytes("1B 40 'still alive' 0A");
         draw(stream, seed % 2 == 0 ? "VANTA" : "VOLTA", testGraphic());
-        const auto kept = std::count_if(m_said.begin(), m_said.end(), [](const std::string& said) {
-            std::ifstream text(said.substr(said.find(' ') + 1), std::ios::binary);
-            return std::string(std::istreambuf_iterator<char>(text), {}).find("still alive\n") !=
-                   std::string::npos;
-        });
+        const auto kept =
+            std::count_if(m_wrote.begin(), m_wrote.end(), [](const std::string& path) {
+                std::ifstream text(path, std::ios::binary);
+                return std::string(std::istreambuf_iterator<char>(text), {})
+                           .find("still alive\n") != std::string::npos;
+            });
         EXPECT_EQ(kept, 1) << "seed " << seed;
     }
     rusage usage{};

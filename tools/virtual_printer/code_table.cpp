@@ -64,6 +64,31 @@ void appendUtf8(std::string& text, char16_t character)
     }
 }
 
+std::u16string fromUtf8(std::string_view text)
+{
+    std::u16string characters;
+    for (std::size_t at = 0; at < text.size();) {
+        const auto byte = [&](std::size_t i) {
+            return at + i < text.size() ? static_cast<unsigned char>(text[at + i]) : 0U;
+        };
+        const unsigned lead = byte(0);
+        unsigned character = u'?';
+        std::size_t length = 1;
+        if (lead < 0x80) {
+            character = lead;
+        } else if ((lead & 0xE0U) == 0xC0) {
+            character = (lead & 0x1FU) << 6U | (byte(1) & 0x3FU);
+            length = 2;
+        } else if ((lead & 0xF0U) == 0xE0) {
+            character = (lead & 0x0FU) << 12U | (byte(1) & 0x3FU) << 6U | (byte(2) & 0x3FU);
+            length = 3;
+        }
+        characters += static_cast<char16_t>(character);
+        at += length;
+    }
+    return characters;
+}
+
 std::string quoted(std::string_view bytes)
 {
     constexpr char digits[] = "0123456789ABCDEF";

@@ -21,6 +21,9 @@ char16_t characterOf(unsigned table, unsigned char byte);
 /** Appends a character of the basic plane as UTF-8. */
 void appendUtf8(std::string& text, char16_t character);
 
+/** The characters of UTF-8 text of the basic plane; what is none reads as "?". */
+std::u16string fromUtf8(std::string_view text);
+
 /** Text for people: Windows 1252 to UTF-8 in double quotes; what does not print, the quote and the
  *  backslash are written as \xNN, \" and \\. */
 std::string quoted(std::string_view bytes);

@@ -2,6 +2,7 @@
 
 #include "code_table.h"
 #include "command_table.h"
+#include "phrases.h"
 
 #include <algorithm>
 
@@ -48,7 +49,7 @@ bool isImage(const Command& command)
 
 } // namespace
 
-std::string nameWithArguments(const Command& command)
+std::string nameWithArguments(const Command& command, Language language)
 {
     if (command.op == Op::Text) {
         return quoted(command.bytes);
@@ -56,11 +57,11 @@ std::string nameWithArguments(const Command& command)
     const std::string name = nameOf(command).name;
     switch (command.op) {
     case Op::Unknown:
-        return "unknown";
+        return std::string(phrases::unknown.in(language));
     case Op::Malformed:
-        return "malformed " + name;
+        return Message(phrases::malformed, {name}).in(language);
     case Op::Truncated:
-        return "truncated " + name;
+        return Message(phrases::truncated, {name}).in(language);
     default:
         break;
     }
@@ -71,7 +72,7 @@ std::string nameWithArguments(const Command& command)
     return text;
 }
 
-std::string listLine(const Command& command)
+std::string listLine(const Command& command, Language language)
 {
     constexpr std::size_t nameColumn = 44;
     constexpr std::size_t effectColumn = 70;
@@ -80,8 +81,8 @@ std::string listLine(const Command& command)
         line += hexOf(std::string_view(command.bytes).substr(0, headSize(command)));
         padTo(line, nameColumn);
     }
-    line += nameWithArguments(command);
-    if (const std::string_view effect = nameOf(command).effect; !effect.empty()) {
+    line += nameWithArguments(command, language);
+    if (const std::string_view effect = nameOf(command).effect.in(language); !effect.empty()) {
         padTo(line, effectColumn);
         line += effect;
     }

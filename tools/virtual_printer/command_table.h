@@ -2,6 +2,7 @@
 #pragma once
 
 #include "command.h"
+#include "message.h"
 
 #include <array>
 
@@ -30,7 +31,7 @@ struct CommandSpec {
     Shape shape;
     std::size_t count;
     std::string_view name;
-    std::string_view effect;
+    Phrase effect;
 };
 
 /** Functions of ESC ( and GS ( that this printer knows, by the bytes behind the length. */
@@ -40,7 +41,7 @@ struct FunctionSpec {
     Op op;
     std::string_view head; // the first data bytes, which name the function
     std::size_t length;    // of the whole data; 0 for any
-    std::string_view effect;
+    Phrase effect;
 };
 extern const std::array<FunctionSpec, 7> functions;
 
@@ -57,7 +58,7 @@ constexpr std::string_view tildeQuery = "~HI";
  *  text and for what is not a command. */
 struct CommandName {
     std::string name;
-    std::string_view effect;
+    Phrase effect;
 };
 CommandName nameOf(const Command& command);
 

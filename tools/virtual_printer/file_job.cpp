@@ -24,17 +24,18 @@ BlankGlyphs blankGlyphs;
 
 FileJob::FileJob(const Workshop& workshop, const Model& model, int number)
     : m_workshop(workshop),
-      m_number(number),
       m_stem(workshop.stem + "-" + std::to_string(number)),
       m_bytes(openForWriting(m_stem + ".bin")),
       m_list(openForWriting(m_stem + ".list")),
-      m_receipts(m_stem, model.widthDots(), workshop.glyphs,
-                 [&workshop](const std::string& path) { workshop.say("wrote " + path); }),
-      m_typesetter(model, workshop.glyphs != nullptr ? *workshop.glyphs : blankGlyphs,
-                   workshop.graphics, m_receipts,
-                   [this](std::uint64_t offset, std::string_view remark) {
-                       m_list << remarkLine(offset, remark) << '\n';
-                   })
+      m_receipts(model.widthDots(), workshop.looks, *this),
+      m_typesetter(
+          model, workshop.looks.glyphs != nullptr ? *workshop.looks.glyphs : blankGlyphs,
+          workshop.graphics, m_receipts,
+          [this](std::uint64_t offset, std::string_view remark) {
+              m_list << remarkLine(offset, remark) << '\n';
+          },
+          workshop.looks.language),
+      m_end{number, 0, 0, true}
 {
 }
 
@@ -46,9 +47,9 @@ void FileJob::received(std::string_view bytes)
 
 void FileJob::command(const Command& command)
 {
-    m_list << listLine(command) << '\n';
+    m_list << listLine(command, m_workshop.looks.language) << '\n';
     if (command.op == Op::Unknown || command.op == Op::Malformed || command.op == Op::Truncated) {
-        m_firstFault = m_faults++ == 0 ? command.offset : m_firstFault;
+        m_end.firstFault = m_end.faults++ == 0 ? command.offset : m_end.firstFault;
     }
     m_typesetter.command(command);
 }
@@ -59,15 +60,39 @@ void FileJob::ended()
     m_receipts.end();
     m_list.close();
     m_bytes.close();
-    if (!m_list || !m_bytes) {
-        m_workshop.say("could not write all of " + m_stem + ".bin and " + m_stem + ".list");
+    m_end.kept = m_list && m_bytes;
+    m_workshop.ended(m_end);
+}
+
+void FileJob::beginReceipt(int number)
+{
+    m_receiptStem = m_stem + "-" + std::to_string(number);
+    m_text = openForWriting(m_receiptStem + ".txt");
+    m_picturePaths.clear();
+}
+
+void FileJob::receiptText(std::string_view piece)
+{
+    m_text << piece;
+}
+
+void FileJob::receiptPicture(std::string png)
+{
+    const std::size_t part = m_picturePaths.size() + 1;
+    m_picturePaths.push_back(m_receiptStem + (part == 1 ? "" : "-" + std::to_string(part)) +
+                             ".png");
+    std::ofstream file = openForWriting(m_picturePaths.back());
+    file << png;
+    closeWhole(file, m_picturePaths.back());
+}
+
+void FileJob::endReceipt()
+{
+    closeWhole(m_text, m_receiptStem + ".txt");
+    m_workshop.wrote(m_receiptStem + ".txt");
+    for (const std::string& path : m_picturePaths) {
+        m_workshop.wrote(path);
     }
-    std::string line = "job " + std::to_string(m_number) + " ended";
-    if (m_faults > 0) {
-        line += ", not understood: " + std::to_string(m_faults) + ", the first at byte " +
-                std::to_string(m_firstFault);
-    }
-    m_workshop.say(line);
 }
 
 } // namespace virtual_printer

@@ -1,22 +1,34 @@
 // One connection written to files: its bytes, its commands and its receipts.
 #pragma once
 
-#include "receipt_files.h"
+#include "receipts.h"
 #include "server.h"
 #include "typesetter.h"
+
+#include <fstream>
 
 namespace virtual_printer
 {
 
-/** What all jobs of a run share; outlives them. */
-struct Workshop {
-    std::string stem;         // path of the files without "-J"
-    Glyphs* glyphs = nullptr; // null: no pictures
-    Graphics graphics = {};
-    std::function<void(const std::string& line)> say; // takes what happened, a line each
+/** What a connection was, once it has ended. */
+struct JobEnd {
+    int number;
+    int faults;               // commands that were not understood
+    std::uint64_t firstFault; // where the first begins, in bytes from the connection's start
+    bool kept;                // all bytes and commands could be written
 };
 
-class FileJob : public Job
+/** What all jobs of a run share; outlives them. */
+struct Workshop {
+    std::string stem; // path of the files without "-J", UTF-8
+    ReceiptLooks looks = {};
+    Graphics graphics = {};
+    /** Told of every file of a receipt once it is complete, and of the end of every job. */
+    std::function<void(const std::string& path)> wrote = [](const auto&) {};
+    std::function<void(const JobEnd& end)> ended = [](const auto&) {};
+};
+
+class FileJob : public Job, private ReceiptTaker
 {
 public:
     /** Throws std::system_error when a file cannot be opened. */
@@ -27,16 +39,22 @@ public:
     void ended() override;
 
 private:
+    void beginReceipt(int number) override;
+    void receiptText(std::string_view piece) override;
+    void receiptPicture(std::string png) override;
+    void endReceipt() override;
+
     const Workshop& m_workshop;
-    int m_number;
     std::string m_stem;
     std::ofstream m_bytes;
     std::ofstream m_list;
-    ReceiptFiles m_receipts;
+    std::ofstream m_text;
+    std::string m_receiptStem;
+    std::vector<std::string> m_picturePaths; // of the receipt at hand
+    Receipts m_receipts;
     Typesetter m_typesetter;
     std::uint64_t m_size = 0;
-    int m_faults = 0;
-    std::uint64_t m_firstFault = 0;
+    JobEnd m_end;
 };
 
 } // namespace virtual_printer

@@ -1,4 +1,3 @@
-#include "command_log.h"
 #include "files.h"
 #include "options.h"
 #include "png_image.h"
@@ -20,8 +19,8 @@ void say(const std::string& line)
 
 void serve(const Options& options, const Workshop& workshop)
 {
-    Server server(options.server, [&](int number) {
-        return std::make_unique<FileJob>(workshop, options.server.model, number);
+    Server server(options.server, [&](int number, const Model& model) {
+        return std::make_unique<FileJob>(workshop, model, number);
     });
     server.stopOnSignals();
     if (options.server.tcp) {
@@ -39,49 +38,24 @@ void serve(const Options& options, const Workshop& workshop)
     server.run(options.jobs);
 }
 
-void drawFile(const Options& options, const Workshop& workshop)
+void sayEnd(const JobEnd& end)
 {
-    std::ifstream file = openForReading(options.input);
-    RecordedConnection connection(workshop, options.server.model, 1);
-    char buffer[65536];
-    do {
-        file.read(buffer, sizeof buffer);
-        connection.received(std::string_view(buffer, static_cast<std::size_t>(file.gcount())));
-    } while (file);
-    connection.end();
+    if (!end.kept) {
+        say("could not write all bytes and commands of job " + std::to_string(end.number));
+    }
+    say("job " + std::to_string(end.number) + " ended" +
+        (end.faults == 0 ? ""
+                         : ", not understood: " + std::to_string(end.faults) +
+                               ", the first at byte " + std::to_string(end.firstFault)));
 }
 
-void drawLog(const Options& options, const Workshop& workshop)
+void drawLogFile(const Options& options, const Workshop& workshop)
 {
     std::ifstream file = openForReading(options.inputLog);
-    std::unique_ptr<RecordedConnection> connection;
-    Model model = options.server.model;
-    int number = 0;
-    const auto end = [&] {
-        if (connection) {
-            connection->end();
-            connection.reset();
-        }
-    };
-    LogEvents events;
-    events.opened = [&](const std::string& modelName) {
-        end();
-        const Model* named = options.modelChosen ? nullptr : findModel(modelName);
-        model = named != nullptr ? *named : options.server.model;
-        model.powerOnCodeTable = options.powerOnCodeTable;
-    };
-    events.sent = [&](std::string_view bytes) {
-        if (!connection) {
-            connection = std::make_unique<RecordedConnection>(workshop, model, ++number);
-        }
-        connection->received(bytes);
-    };
-    events.faulty = [&](std::uint64_t line) {
+    const auto faulty = [&options](std::uint64_t line) {
         std::cerr << options.inputLog << ':' << line << ": not hexadecimal to its end\n";
     };
-    readCommandLog(file, events);
-    end();
-    if (number == 0) {
+    if (drawLog(file, workshop, options.server.model, options.modelChosen, faulty) == 0) {
         throw std::runtime_error(options.inputLog + ": no line COMANDOSENVIADOS");
     }
 }
@@ -98,17 +72,19 @@ void run(const Options& options)
     workshop.stem =
         (fs::path(options.output) / (named ? fs::path(options.name) : fs::path(input).stem()))
             .string();
-    workshop.say = say;
+    workshop.wrote = [](const std::string& path) { say("wrote " + path); };
+    workshop.ended = sayEnd;
     if (options.pictures) {
-        workshop.glyphs = &glyphs;
+        workshop.looks.glyphs = &glyphs;
     }
     for (const auto& [key, path] : options.graphicFiles) {
         workshop.graphics[key] = readGraphic(path);
     }
     if (!options.input.empty()) {
-        drawFile(options, workshop);
+        std::ifstream file = openForReading(options.input);
+        drawBytes(file, workshop, options.server.model);
     } else if (!options.inputLog.empty()) {
-        drawLog(options, workshop);
+        drawLogFile(options, workshop);
     } else {
         serve(options, workshop);
     }

@@ -22,7 +22,7 @@ public:
     virtual void print(const Bitmap& dots, int advanceDots, std::string_view text) = 0;
     virtual void feed(int dots) = 0;
     virtual void cut() = 0;
-    /** Something that leaves no dots (drawer, buzzer, a symbol that did not fit). ASCII. */
+    /** Something that leaves no dots (drawer, buzzer, a symbol that did not fit). UTF-8. */
     virtual void note(std::string_view text) = 0;
 };
 

@@ -1,17 +1,17 @@
-// A receipt as PNG files, dot for dot.
+// A receipt as PNG pictures, dot for dot.
 #pragma once
 
 #include "glyphs.h"
+#include "message.h"
 
+#include <functional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace virtual_printer
 {
 
-/** The picture shows the paper, its dots one pixel each, on a grey ground; right of it stand notes.
- *  However long the receipt, memory stays small: after partRows rows a part is written and the
+/** However long the receipt, memory stays small: after partRows rows a part is handed over and the
  *  next begins, never in the middle of a line. */
 class Picture
 {
@@ -19,22 +19,26 @@ public:
     static constexpr int partRows = 16000;
     /** Longer stretches of blank paper are shown as long as this, with a note. */
     static constexpr int longestBlankRows = 1600;
-    /** Place of the first dot of a part in its picture. */
+    /** Place of the first dot of a part in its picture WithNotes. */
     static constexpr int leftDots = 44;
     static constexpr int topDots = 36;
 
+    /** The paper's dots are one pixel each. WithNotes: on a grey ground, notes right of it. */
+    enum class Frame : bool { WithNotes, PaperAlone };
     enum class End { Cut, Connection };
+    /** Takes the parts as they are ready: the content of a PNG file each. */
+    using Taker = std::function<void(std::string png)>;
 
-    /** stem: path of the files without ".png"; the second part adds "-2", and so on.
-     *  glyphs: must outlive the picture. */
-    Picture(std::string stem, int widthDots, Glyphs& glyphs);
+    /** glyphs: must outlive the picture. */
+    Picture(int widthDots, Glyphs& glyphs, Frame frame, Language language, Taker taker);
 
     void print(const Bitmap& dots, int advanceDots);
     void feed(int dots) { m_blankRows += dots; }
     void note(std::string_view text);
-    /** Writes the last part. Returns the paths of all. Throws std::runtime_error when a part could
-     *  not be written. */
-    const std::vector<std::string>& end(End how);
+    /** Hands over the last part. */
+    void end(End how);
+    /** The part at hand as it looks now. */
+    std::string preview() const;
 
     struct Note {
         int row; // of the part
@@ -43,16 +47,18 @@ public:
 
 private:
     void commitBlank();
-    void writePart(std::string_view ending, bool cut);
+    void finishPart(const Message& ending, bool cut);
+    std::string drawn(bool cut) const;
 
-    std::string m_stem;
     int m_widthDots;
     Glyphs& m_glyphs;
+    Frame m_frame;
+    Language m_language;
+    Taker m_taker;
     std::vector<std::uint8_t> m_rows;
     int m_rowCount = 0;
     long long m_blankRows = 0; // below the last row, not yet kept
     std::vector<Note> m_notes;
-    std::vector<std::string> m_paths;
 };
 
 } // namespace virtual_printer

@@ -39,9 +39,10 @@ std::string encodePng(const IndexedImage& image, unsigned dotsPerMetre)
     state.encoder.auto_convert = 0;
     state.info_raw.colortype = state.info_png.color.colortype = LCT_PALETTE;
     state.info_raw.bitdepth = state.info_png.color.bitdepth = 2;
-    for (const Rgb& colour : image.colours) {
+    for (const Colour& colour : image.colours) {
         for (LodePNGColorMode* mode : {&state.info_raw, &state.info_png.color}) {
-            check(lodepng_palette_add(mode, colour.red, colour.green, colour.blue, 255), "palette");
+            check(lodepng_palette_add(mode, colour.red, colour.green, colour.blue, colour.opacity),
+                  "palette");
         }
     }
     state.info_png.phys_defined = 1;

@@ -9,17 +9,18 @@
 namespace virtual_printer
 {
 
-struct Rgb {
+struct Colour {
     std::uint8_t red;
     std::uint8_t green;
     std::uint8_t blue;
+    std::uint8_t opacity = 255; // 0: not there
 };
 
 /** An image of four colours, a byte per pixel that is an index into them. */
 struct IndexedImage {
     int width;
     int height;
-    std::array<Rgb, 4> colours;
+    std::array<Colour, 4> colours;
     std::vector<std::uint8_t> pixels; // width by height, from the top
 };
 

@@ -1,6 +1,7 @@
 #include "printed_symbol.h"
 
 #include "code_table.h"
+#include "phrases.h"
 
 #include <algorithm>
 
@@ -45,9 +46,9 @@ PrintedSymbol qrCode(std::string_view data, QrLevel level, int moduleDots, int r
 {
     Symbol symbol = encodeQr(data, level, moduleDots, roomDots);
     if (!symbol.problem.empty()) {
-        return {{}, {}, "QR code not printed: it " + symbol.problem};
+        return {{}, {}, {phrases::qrCodeNotPrinted, {symbol.problem}}};
     }
-    return {std::move(symbol.dots), "[QR code " + shortened(data) + "]", {}};
+    return {std::move(symbol.dots), {phrases::qrCode, {shortened(data)}}, {}};
 }
 
 /** Rows of a raster image, each dot across by down large. */
@@ -77,7 +78,7 @@ PrintedSymbol barcodeOf(const Command& command, const Settings& settings, const 
     const Symbol barcode = encodeBarcode(symbology, command.data(), model.picksCode128Set,
                                          settings.barcodeModule, settings.barcodeHeight, roomDots);
     if (!barcode.problem.empty()) {
-        return {{}, {}, "barcode not printed: it " + barcode.problem};
+        return {{}, {}, {phrases::barcodeNotPrinted, {barcode.problem}}};
     }
     return {withText(barcode, settings, glyphs, roomDots),
             "[" + std::string(barcodeName(symbology)) + " " + shortened(barcode.text) + "]",
@@ -121,12 +122,11 @@ std::optional<PrintedSymbol> graphicOf(const Command& command, const Graphics& g
         return std::nullopt;
     }
     if (graphic == graphics.end()) {
-        return PrintedSymbol{
-            {}, {}, "no graphic is stored under " + quoted(key) + ": nothing printed"};
+        return PrintedSymbol{{}, {}, {phrases::noGraphic, {quoted(key)}}};
     }
     Bitmap scaled(graphic->second.width() * across, graphic->second.height() * down);
     scaled.draw(graphic->second, 0, 0, across, down);
-    return PrintedSymbol{std::move(scaled), "[graphic " + quoted(key) + "]", {}};
+    return PrintedSymbol{std::move(scaled), {phrases::graphic, {quoted(key)}}, {}};
 }
 
 std::vector<PrintedSymbol> rasterOf(const Command& command, int roomDots)
@@ -145,7 +145,7 @@ std::vector<PrintedSymbol> rasterOf(const Command& command, int roomDots)
     while (!rest.empty()) {
         const std::string_view strip = rest.substr(0, rowsAtOnce * command.arg16(1));
         strips.push_back({rasterRows(strip, bytesPerRow, width, across, down),
-                          strips.empty() ? "[image]" : "",
+                          strips.empty() ? Message(phrases::image) : Message(),
                           {}});
         rest.remove_prefix(strip.size());
     }

@@ -15,8 +15,8 @@ using Graphics = std::map<std::string, Bitmap>;
 /** A symbol to print, or why there is none. */
 struct PrintedSymbol {
     Bitmap dots;
-    std::string caption; // what stands for it in the receipt's text, UTF-8
-    std::string problem; // empty when the symbol can be printed
+    Message caption; // what stands for it in the receipt's text
+    Message problem; // empty when the symbol can be printed
 };
 
 /** A barcode with its text above, below or both. roomDots: the width there is for it. */

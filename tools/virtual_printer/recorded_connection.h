@@ -1,4 +1,4 @@
-// A connection whose bytes were recorded, in a file or a log.
+// Connections whose bytes were recorded, in a file or a log.
 #pragma once
 
 #include "command_parser.h"
@@ -23,5 +23,17 @@ private:
     FileJob m_job;
     CommandParser m_parser;
 };
+
+/** Draws a file of printer bytes, as connection 1. Throws std::exception's kin when a file could
+ *  not be written. */
+void drawBytes(std::istream& bytes, const Workshop& workshop, const Model& model);
+
+/** Draws what a library log says was sent, a connection for each opening.
+ *  model: for connections of which the log does not tell the model, or tells one that is not known.
+ *  onlyThatModel: for all of them.
+ *  faulty: told the number, from 1, of each line whose bytes are not hexadecimal to their end.
+ *  Returns the count of connections. Throws as drawBytes does. */
+int drawLog(std::istream& log, const Workshop& workshop, const Model& model, bool onlyThatModel,
+            const std::function<void(std::uint64_t line)>& faulty);
 
 } // namespace virtual_printer

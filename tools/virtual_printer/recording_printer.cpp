@@ -40,7 +40,7 @@ private:
 
 RecordingPrinter::RecordingPrinter(const ServerSettings& settings)
     : m_server(settings,
-               [this](int number) {
+               [this](int number, const Model&) {
                    const std::lock_guard<std::mutex> lock(m_mutex);
                    m_records.emplace_back();
                    m_changed.notify_all();

@@ -57,20 +57,22 @@ public:
           m_line(std::move(line)),
           m_readTimer(context),
           m_replyTimer(context),
-          m_unaskedTimer(context)
+          m_unaskedTimer(context),
+          m_showTimer(context)
     {
     }
 
     void beginJob()
     {
-        m_job = m_server.m_maker(++m_server.m_jobsBegun);
+        m_model = m_server.model();
+        m_job = m_server.m_maker(++m_server.m_jobsBegun, m_model);
         m_parser = std::make_unique<CommandParser>(
             [this](const Command& command) {
                 m_job->command(command);
                 answer(command);
             },
-            m_server.m_model.tildeQueries ? CommandParser::TildeQueries::Yes
-                                          : CommandParser::TildeQueries::No);
+            m_model.tildeQueries ? CommandParser::TildeQueries::Yes
+                                 : CommandParser::TildeQueries::No);
         m_received = 0;
         m_replies = 0;
         awaitUnasked();
@@ -91,6 +93,8 @@ public:
         m_replyTimer.cancel();
         m_unaskedTimer.cancel();
         m_unaskedAwaited = false;
+        m_showTimer.cancel();
+        m_showAwaited = false;
         m_outgoing.clear();
         if (m_job) {
             m_parser->finish();
@@ -189,6 +193,7 @@ private:
         const std::string_view bytes(buffer, size);
         m_job->received(bytes);
         m_parser->feed(bytes);
+        awaitShow();
         if (!m_unaskedAwaited) {
             awaitUnasked(); // the behaviour may have changed
         }
@@ -208,7 +213,7 @@ private:
         const auto fixed = manner.answers.find(command.bytes);
         const std::string reply = fixed != manner.answers.end()
                                       ? fixed->second
-                                      : replyTo(command, m_server.m_model, m_server.state());
+                                      : replyTo(command, m_model, m_server.state());
         // A printer keeps few answers: who asks on and on without reading loses the later ones.
         constexpr std::size_t mostWaiting = 4096;
         if (reply.empty() || m_outgoing.size() >= mostWaiting) {
@@ -255,9 +260,25 @@ private:
         if (m_unaskedAwaited) {
             m_unaskedTimer.expires_after(milliseconds(periodMs));
             m_unaskedTimer.async_wait(whileOpen([](Connection& self) {
-                self.m_outgoing.push_back({Clock::now(), automaticStatus(self.m_server.state())});
-                self.sendDue();
-                self.awaitUnasked();
+                if (self.m_unaskedAwaited) {
+                    self.m_outgoing.push_back(
+                        {Clock::now(), automaticStatus(self.m_server.state())});
+                    self.sendDue();
+                    self.awaitUnasked();
+                }
+            }));
+        }
+    }
+
+    void awaitShow()
+    {
+        if (!m_showAwaited) {
+            m_showAwaited = true;
+            m_showTimer.expires_after(Job::showPeriod);
+            m_showTimer.async_wait(whileOpen([](Connection& self) {
+                if (std::exchange(self.m_showAwaited, false)) {
+                    self.m_job->show();
+                }
             }));
         }
     }
@@ -271,6 +292,7 @@ private:
 
     Server& m_server;
     std::unique_ptr<Line> m_line;
+    Model m_model = {};
     std::unique_ptr<Job> m_job;
     std::unique_ptr<CommandParser> m_parser;
     std::uint64_t m_received = 0;
@@ -280,6 +302,8 @@ private:
     asio::steady_timer m_readTimer;
     asio::steady_timer m_replyTimer;
     asio::steady_timer m_unaskedTimer;
+    asio::steady_timer m_showTimer;
+    bool m_showAwaited = false;
     bool m_unaskedAwaited = false;
     bool m_gone = false;
 };
@@ -383,6 +407,12 @@ void Server::setBehaviour(const Behaviour& behaviour)
     m_behaviour = behaviour;
 }
 
+void Server::setModel(const Model& model)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_model = model;
+}
+
 Behaviour Server::behaviour() const
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
@@ -393,6 +423,12 @@ State Server::state() const
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     return m_state;
+}
+
+Model Server::model() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_model;
 }
 
 void Server::acceptNext()

@@ -3,6 +3,7 @@
 
 #include "device.h"
 
+#include <chrono>
 #include <functional>
 #include <map>
 #include <memory>
@@ -42,6 +43,9 @@ public:
     virtual void command(const Command& command) = 0;
     /** An answer, or a byte of it, or an unasked status left. */
     virtual void sent(std::string_view /*bytes*/) {}
+    /** Bytes came a moment ago, within showPeriod: what there is can be shown. */
+    virtual void show() {}
+    static constexpr std::chrono::milliseconds showPeriod{250};
     /** The connection is gone; every command has been handed over. */
     virtual void ended() = 0;
 };
@@ -61,10 +65,10 @@ struct ServerSettings {
 class Server
 {
 public:
-    using JobMaker = std::function<std::unique_ptr<Job>(int number)>;
+    using JobMaker = std::function<std::unique_ptr<Job>(int number, const Model& model)>;
 
-    /** Opens the links. maker: called with 1, 2, ... when a connection begins (on the serial line:
-     *  with its first byte). Throws std::system_error. */
+    /** Opens the links. maker: called with 1, 2, ... and the model in force when a connection begins
+     *  (on the serial line: with its first byte). Throws std::system_error. */
     Server(const ServerSettings& settings, JobMaker maker);
     ~Server();
     Server(const Server&) = delete;
@@ -81,7 +85,10 @@ public:
     /** From now on, while this lives, the signals by which a user ends a program end run(). */
     void stopOnSignals();
 
+    // From any thread.
     void setState(const State& state);
+    /** For the connections that begin from now on. */
+    void setModel(const Model& model);
     void setBehaviour(const Behaviour& behaviour);
 
 private:
@@ -92,10 +99,11 @@ private:
     void jobEnded();
     Behaviour behaviour() const;
     State state() const;
+    Model model() const;
 
     JobMaker m_maker;
-    Model m_model;
     mutable std::mutex m_mutex;
+    Model m_model;
     State m_state;
     Behaviour m_behaviour;
     int m_jobsBegun = 0;

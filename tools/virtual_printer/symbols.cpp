@@ -1,5 +1,7 @@
 #include "symbols.h"
 
+#include "phrases.h"
+
 #include <zint.h>
 
 #include <algorithm>
@@ -41,7 +43,7 @@ std::optional<unsigned> indexOf(unsigned symbology)
     return known ? std::optional<unsigned>(index) : std::nullopt;
 }
 
-Symbol problem(std::string text)
+Symbol problem(Message text)
 {
     Symbol symbol;
     symbol.problem = std::move(text);
@@ -50,8 +52,7 @@ Symbol problem(std::string text)
 
 Symbol tooWide(int width, int longest)
 {
-    return problem("is " + std::to_string(width) + " dots wide, there are " +
-                   std::to_string(longest));
+    return problem({phrases::tooWide, {std::to_string(width), std::to_string(longest)}});
 }
 
 bool moduleAt(const zint_symbol& symbol, int row, int column)
@@ -59,7 +60,7 @@ bool moduleAt(const zint_symbol& symbol, int row, int column)
     return (symbol.encoded_data[row][column / 8] >> (column % 8) & 1) != 0;
 }
 
-ZintSymbol encode(int symbology, std::string_view data, int level, std::string& error)
+ZintSymbol encode(int symbology, std::string_view data, int level, Message& error)
 {
     ZintSymbol symbol(ZBarcode_Create());
     symbol->symbology = symbology;
@@ -70,10 +71,8 @@ ZintSymbol encode(int symbology, std::string_view data, int level, std::string& 
                            ? ZINT_ERROR_INVALID_DATA
                            : ZBarcode_Encode(symbol.get(), bytes, static_cast<int>(data.size()));
     if (result >= ZINT_ERROR) {
-        error = std::string("cannot be encoded");
-        if (symbol->errtxt[0] != '\0') {
-            error.append(": ").append(symbol->errtxt);
-        }
+        error = data.empty() ? Message(phrases::noData)
+                             : Message(phrases::cannotBeEncoded, {std::string(symbol->errtxt)});
         return nullptr;
     }
     return symbol;
@@ -109,7 +108,7 @@ bool isDigits(std::string_view text)
 struct Code128Data {
     std::string characters;
     bool usesC = false;
-    std::string problem;
+    Message problem;
 };
 
 Code128Data readCode128(std::string_view data)
@@ -125,17 +124,17 @@ Code128Data readCode128(std::string_view data)
                 continue;
             }
             if (selector != '{' || set == 0 || set == 'C') {
-                read.problem = "has a code that is not drawn";
+                read.problem = phrases::codeNotDrawn;
                 return read;
             }
         } else if (set == 0) {
-            read.problem = "has no set selector";
+            read.problem = phrases::noSetSelector;
             return read;
         }
         if (set == 'C') {
             const auto pair = static_cast<unsigned char>(c);
             if (pair > 99) {
-                read.problem = "has a pair of digits above 99";
+                read.problem = phrases::pairAbove99;
                 return read;
             }
             read.characters += static_cast<char>('0' + pair / 10);
@@ -202,7 +201,7 @@ Symbol encodeBarcode(unsigned symbology, std::string_view data, bool picksCode12
 {
     const auto index = indexOf(symbology);
     if (!index) {
-        return problem("is of a kind that is not drawn");
+        return problem(phrases::kindNotDrawn);
     }
     const Barcode& barcode = barcodes[*index];
     int zintSymbology = barcode.symbology;
@@ -212,14 +211,14 @@ Symbol encodeBarcode(unsigned symbology, std::string_view data, bool picksCode12
         constexpr std::size_t digits[] = {11, 11, 12, 7};
         const std::size_t count = digits[*index];
         if (!isDigits(data) || data.size() < count || data.size() > count + 1) {
-            return problem("has the wrong number of digits");
+            return problem(phrases::wrongDigitCount);
         }
         checkDigit = data.substr(count);
         characters.resize(count);
         if (*index == upcE) {
             const auto suppressed = zeroSuppressed(characters);
             if (characters[0] != '0' || !suppressed) {
-                return problem("cannot be shortened to UPC-E");
+                return problem(phrases::notShortened);
             }
             characters = "0" + *suppressed;
         }
@@ -238,7 +237,7 @@ Symbol encodeBarcode(unsigned symbology, std::string_view data, bool picksCode12
         }
     }
 
-    std::string error;
+    Message error;
     const ZintSymbol symbol = encode(zintSymbology, characters, -1, error);
     if (symbol == nullptr) {
         return problem(error);
@@ -246,14 +245,14 @@ Symbol encodeBarcode(unsigned symbology, std::string_view data, bool picksCode12
     Symbol made = barsOf(*symbol, barcode.twoLevels, moduleDots, heightDots, longest);
     if (!checkDigit.empty() && made.problem.empty() &&
         made.text.substr(made.text.size() - 1) != checkDigit) {
-        return problem("has the wrong check digit");
+        return problem(phrases::wrongCheckDigit);
     }
     return made;
 }
 
 Symbol encodeQr(std::string_view data, QrLevel level, int moduleDots, int longest)
 {
-    std::string error;
+    Message error;
     const ZintSymbol symbol = encode(BARCODE_QRCODE, data, static_cast<int>(level), error);
     if (symbol == nullptr) {
         return problem(error);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "bitmap.h"
+#include "message.h"
 
 #include <string>
 #include <string_view>
@@ -12,8 +13,8 @@ namespace virtual_printer
 /** An encoded symbol, or why there is none. */
 struct Symbol {
     Bitmap dots;
-    std::string text;    // human-readable interpretation of a barcode, ASCII
-    std::string problem; // empty when the symbol could be made
+    std::string text; // human-readable interpretation of a barcode, ASCII
+    Message problem;  // empty when the symbol could be made
 };
 
 /** A barcode without its text.

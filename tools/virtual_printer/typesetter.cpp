@@ -1,26 +1,21 @@
 #include "typesetter.h"
 
 #include "code_table.h"
+#include "phrases.h"
 
 #include <algorithm>
 
 namespace virtual_printer
 {
-namespace
-{
-
-constexpr char outOfRange[] = "argument out of range: ignored";
-constexpr char onlyInPageMode[] = "only in page mode: ignored";
-
-} // namespace
 
 Typesetter::Typesetter(const Model& model, Glyphs& glyphs, const Graphics& graphics, Paper& paper,
-                       Remarks remarks)
+                       Remarks remarks, Language language)
     : m_model(model),
       m_glyphs(glyphs),
       m_graphics(graphics),
       m_paper(paper),
       m_remarks(std::move(remarks)),
+      m_language(language),
       m_settings(model.powerOnCodeTable)
 {
 }
@@ -55,7 +50,7 @@ void Typesetter::command(const Command& command)
 void Typesetter::finish(std::uint64_t offset)
 {
     m_at = offset;
-    throwAway("the end of the connection");
+    throwAway(phrases::theEndOfTheConnection);
     leavePage();
 }
 
@@ -64,21 +59,21 @@ void Typesetter::finish(std::uint64_t offset)
 bool Typesetter::set(const Command& command)
 {
     if (command.op == Op::Alignment && !m_line.empty() && !m_page) {
-        remark("in mid-line: ignored");
+        remark(phrases::inMidLine);
         return true;
     }
     const Taking taking = m_settings.take(command);
     if (taking == Taking::OutOfRange) {
-        remark(outOfRange);
+        remark(phrases::outOfRange);
     } else if (taking == Taking::UnknownCodeTable) {
-        remark("unknown code table: drawn as PC437");
+        remark(phrases::unknownCodeTable);
     }
     return taking != Taking::SetsNothing;
 }
 
 void Typesetter::reset()
 {
-    throwAway("the reset");
+    throwAway(phrases::theReset);
     leavePage();
     m_settings = Settings(m_model.powerOnCodeTable);
 }
@@ -119,7 +114,7 @@ void Typesetter::move(const Command& command)
 {
     const auto to = [this](int& position, int value, int end) {
         if (value < 0 || value > end) {
-            return remark("outside the line or the area: ignored");
+            return remark(phrases::outsideLineOrArea);
         }
         position = value;
         m_fullLinePrinted = false;
@@ -135,7 +130,7 @@ void Typesetter::move(const Command& command)
         return to(m_pen, m_pen + distance, lineDots());
     default:
         if (!m_page) {
-            return remark(onlyInPageMode);
+            return remark(phrases::onlyInPageMode);
         }
         flushIfBegun();
         to(m_down, command.op == Op::PageVerticalMove ? m_down + distance : position,
@@ -228,10 +223,10 @@ void Typesetter::flushIfBegun()
     }
 }
 
-void Typesetter::endLineBefore(std::string_view what)
+void Typesetter::endLineBefore(const Message& what)
 {
     if (!m_line.empty()) {
-        remark(std::string(what) + " in mid-line: the line is printed first");
+        remark({phrases::linePrintedFirst, {what}});
         flushLine(m_settings.lineSpacing);
     }
     m_fullLinePrinted = false;
@@ -256,24 +251,23 @@ void Typesetter::emitLine(const Bitmap& dots, int advanceDots, const std::string
     }
     if (m_down >= m_page->depthDots()) {
         if (dots.height() > 0) {
-            remark("below the page area, not printed: " + text);
+            remark({phrases::belowArea, {text}});
         }
         return;
     }
     if (dots.height() > 0 && m_page->place(dots, 0, m_down, text) > 0) {
-        remark("cut off at the edge of the page area: " + text);
+        remark({phrases::cutOffAtEdge, {text}});
     }
     m_down += advanceDots;
 }
 
-void Typesetter::throwAway(std::string_view who)
+void Typesetter::throwAway(const Message& who)
 {
     if (!m_line.empty()) {
-        remark(std::string(who) + " throws away what was received at " +
-               std::to_string(m_lineBegan) + " and not yet printed: " + m_line.text(0));
+        remark({phrases::lineThrownAway, {who, std::to_string(m_lineBegan), m_line.text(0)}});
     }
     if (m_page && m_page->isUnprinted()) {
-        remark(std::string(who) + " throws away a page that was not printed");
+        remark({phrases::pageThrownAway, {who}});
     }
     m_line.clear();
     m_pen = 0;
@@ -288,25 +282,25 @@ void Typesetter::printSymbol(const PrintedSymbol& symbol, Foot foot)
     if (m_page) {
         const int top =
             foot == Foot::OnLine ? m_down + cellOf(Font::A).heightDots - dots.height() : m_down;
-        if (m_page->place(dots, m_pen, top, symbol.caption) > 0) {
-            remark("cut off at the edge of the page area: " + symbol.caption);
+        if (m_page->place(dots, m_pen, top, symbol.caption.in(m_language)) > 0) {
+            remark({phrases::cutOffAtEdge, {symbol.caption}});
         }
         m_pen += dots.width();
         return;
     }
-    endLineBefore("symbol");
+    endLineBefore(phrases::symbol);
     const int left = aligned(dots.width());
     Bitmap strip(m_model.widthDots(), dots.height());
     strip.draw(dots, left, 0);
     const std::string indent(static_cast<std::size_t>(left / cellOf(Font::A).widthDots), ' ');
-    m_paper.print(strip, dots.height(), indent + symbol.caption);
+    m_paper.print(strip, dots.height(), indent + symbol.caption.in(m_language));
 }
 
 void Typesetter::printCode(const PrintedSymbol& code)
 {
     if (!code.problem.empty()) {
         remark(code.problem);
-        return m_paper.note(code.problem);
+        return note(code.problem);
     }
     printSymbol(code, m_model.symbolsStandOnLine ? Foot::OnLine : Foot::Below);
 }
@@ -314,14 +308,14 @@ void Typesetter::printCode(const PrintedSymbol& code)
 void Typesetter::printQrCode(const Command& command)
 {
     const auto code = qrCodeOf(command, m_settings, roomDots());
-    return code ? printCode(*code) : remark(outOfRange);
+    return code ? printCode(*code) : remark(phrases::outOfRange);
 }
 
 void Typesetter::printGraphic(const Command& command)
 {
     const auto graphic = graphicOf(command, m_graphics);
     if (!graphic) {
-        return remark(outOfRange);
+        return remark(phrases::outOfRange);
     }
     if (!graphic->problem.empty()) {
         return remark(graphic->problem);
@@ -333,7 +327,7 @@ void Typesetter::printRaster(const Command& command)
 {
     const std::vector<PrintedSymbol> strips = rasterOf(command, roomDots());
     if (strips.empty()) {
-        return remark(outOfRange);
+        return remark(phrases::outOfRange);
     }
     for (const PrintedSymbol& strip : strips) {
         printSymbol(strip, Foot::Below);
@@ -349,7 +343,7 @@ void Typesetter::pageCommand(const Command& command)
         return enterPage();
     case Op::PageDirection:
         if (command.argOrDigit(0) > 3) {
-            return remark(outOfRange);
+            return remark(phrases::outOfRange);
         }
         m_settings.pageDirection = static_cast<Page::Direction>(command.argOrDigit(0));
         break;
@@ -360,10 +354,10 @@ void Typesetter::pageCommand(const Command& command)
         break;
     default:
         if (!m_page) {
-            return remark(onlyInPageMode);
+            return remark(phrases::onlyInPageMode);
         }
         if (command.op == Op::StandardMode) {
-            throwAway("standard mode");
+            throwAway(phrases::standardMode);
             return leavePage();
         }
         if (command.op == Op::CancelPage) {
@@ -380,7 +374,7 @@ void Typesetter::pageCommand(const Command& command)
         flushIfBegun();
         m_page->setDirection(m_settings.pageDirection);
         if (command.op == Op::PageArea && !m_page->setArea(*m_settings.pageArea)) {
-            return remark("nothing of the area lies on the page: ignored");
+            return remark(phrases::outsidePage);
         }
         m_pen = m_down = 0;
     }
@@ -391,7 +385,7 @@ void Typesetter::enterPage()
     if (m_page) {
         return;
     }
-    endLineBefore("page mode");
+    endLineBefore(phrases::pageMode);
     m_page.emplace(m_model.widthDots());
     m_page->setDirection(m_settings.pageDirection);
     if (m_settings.pageArea) {
@@ -446,22 +440,21 @@ void Typesetter::act(const Command& command)
         return printRaster(command);
     case Op::Cut:
         if (m_page) {
-            return remark("in page mode: ignored");
+            return remark(phrases::inPageMode);
         }
-        endLineBefore("cut");
+        endLineBefore(phrases::cutCommand);
         if (command.arg(0) >= 'A') { // these forms feed first
             m_paper.feed(static_cast<int>(command.arg(1)));
         }
         return m_paper.cut();
     case Op::Drawer:
         if (command.argOrDigit(0) > 1) {
-            return remark(outOfRange);
+            return remark(phrases::outOfRange);
         }
-        return m_paper.note("drawer " + std::to_string(command.argOrDigit(0)) + ": " +
-                            number(1, 2) + " ms on, " + number(2, 2) + " ms off");
+        return note(
+            {phrases::drawer, {std::to_string(command.argOrDigit(0)), number(1, 2), number(2, 2)}});
     case Op::Buzzer:
-        return m_paper.note("buzzer " + number(0, 1) + " times: " + number(1, 100) + " ms on, " +
-                            number(2, 100) + " ms off");
+        return note({phrases::buzzer, {number(0, 1), number(1, 100), number(2, 100)}});
     default:
         return; // nothing that shows on paper; the list of commands has it
     }

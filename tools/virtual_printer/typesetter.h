@@ -19,7 +19,7 @@ public:
 
     /** glyphs, graphics and paper must outlive the typesetter. */
     Typesetter(const Model& model, Glyphs& glyphs, const Graphics& graphics, Paper& paper,
-               Remarks remarks);
+               Remarks remarks, Language language = Language::English);
 
     void command(const Command& command);
     /** The connection has ended: what was not printed by then is remarked on. */
@@ -40,7 +40,7 @@ private:
     void feedDots(int dots);
     void flushLine(int spacingDots);
     void flushIfBegun();
-    void endLineBefore(std::string_view what);
+    void endLineBefore(const Message& what);
     void emitLine(const Bitmap& dots, int advanceDots, const std::string& text);
     int aligned(int widthDots) const;
 
@@ -54,8 +54,9 @@ private:
     void enterPage();
     void printPage();
     void leavePage();
-    void throwAway(std::string_view who);
-    void remark(std::string_view text) const { m_remarks(m_at, text); }
+    void throwAway(const Message& who);
+    void remark(const Message& message) const { m_remarks(m_at, message.in(m_language)); }
+    void note(const Message& message) { m_paper.note(message.in(m_language)); }
     int leftMargin() const;
     int lineDots() const;
     int roomDots() const;
@@ -65,6 +66,7 @@ private:
     const Graphics& m_graphics;
     Paper& m_paper;
     Remarks m_remarks;
+    Language m_language;
 
     std::uint64_t m_at = 0;
     Settings m_settings;

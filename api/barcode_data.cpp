@@ -33,36 +33,36 @@ bool isCodabarEnd(char c)
     return c != '\0' && std::strchr("ABCDabcd", c);
 }
 
-template <typename Test> bool all(const QByteArray& data, Test test)
+template <typename Test> bool all(Bytes data, Test test)
 {
     return std::all_of(data.begin(), data.end(), test);
 }
 
 // Without or with its check digit.
-bool isDigits(const QByteArray& data, int length)
+bool isDigits(Bytes data, std::size_t length)
 {
     return (data.size() == length || data.size() == length + 1) && all(data, isDigit);
 }
 
-bool isShort(const QByteArray& data)
+bool isShort(Bytes data)
 {
-    return !data.isEmpty() && data.size() <= 255;
+    return !data.empty() && data.size() <= 255;
 }
 
 } // namespace
 
-bool hasSubsetSelector(const QByteArray& data)
+bool hasSubsetSelector(Bytes data)
 {
     return data.startsWith("{A") || data.startsWith("{B") || data.startsWith("{C");
 }
 
-bool isBarcodeData(int type, const QByteArray& data, bool choosesSubset)
+bool isBarcodeData(int type, Bytes data, bool choosesSubset)
 {
     switch (type) {
     case UpcA:
         return isDigits(data, 11);
     case UpcE:
-        return isDigits(data, 11) && data.startsWith('0');
+        return isDigits(data, 11) && data.startsWith("0");
     case Ean13:
         return isDigits(data, 12);
     case Ean8:
@@ -70,10 +70,10 @@ bool isBarcodeData(int type, const QByteArray& data, bool choosesSubset)
     case Code39:
         return isShort(data) && all(data, isCode39);
     case Itf: // an empty one would make the printer take the next command for its length
-        return !data.isEmpty() && data.size() % 2 == 0 && all(data, isDigit);
+        return !data.empty() && data.size() % 2 == 0 && all(data, isDigit);
     case Codabar:
         return data.size() >= 2 && isCodabarEnd(data.front()) && isCodabarEnd(data.back()) &&
-               all(data.mid(1, data.size() - 2), isCodabar);
+               all(data.substr(1, data.size() - 2), isCodabar);
     case Code93:
         return isShort(data) && all(data, isAscii);
     case Code128:

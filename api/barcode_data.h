@@ -1,7 +1,7 @@
 // What each barcode symbology accepts.
 #pragma once
 
-#include <QByteArray>
+#include "printer_bytes.h"
 
 namespace q7
 {
@@ -12,10 +12,10 @@ enum BarcodeType : int { UpcA, UpcE, Ean13, Ean8, Code39, Itf, Codabar, Code93, 
 constexpr int firstLengthPrefixedType = 65;
 
 /** Whether data begins with a Code 128 subset selector, "{A", "{B" or "{C". */
-bool hasSubsetSelector(const QByteArray& data);
+bool hasSubsetSelector(Bytes data);
 
 /** Whether the data suits the symbology.
  *  choosesSubset: the printer picks the Code 128 subset itself, so that no selector is needed. */
-bool isBarcodeData(int type, const QByteArray& data, bool choosesSubset);
+bool isBarcodeData(int type, Bytes data, bool choosesSubset);
 
 } // namespace q7

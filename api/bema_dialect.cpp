@@ -19,9 +19,9 @@ qint64 correctionOf(int level)
 
 } // namespace
 
-int printBemaQrCode(PrinterSession& printerSession, const char* data, int moduleSize, int level)
+int printBemaQrCode(PrinterSession& printer, const char* data, int moduleSize, int level)
 {
-    printerSession.send(CMD_LF);
+    printer.send(CMD_LF);
     logCall({"ImpressaoQRCodeBema"}, std::tie(data, moduleSize, level));
 
     const QString text = QString::fromUtf8(data);
@@ -38,28 +38,28 @@ int printBemaQrCode(PrinterSession& printerSession, const char* data, int module
     // as long as the text itself has at most 255.
     const int length = text.size() + 3;
     const int lengthHigh = text.size() <= 255 ? 0 : length / 256;
-    printerSession.send(CMD_QR_BEMA);
-    printerSession.send(argumentByte(static_cast<int>(sizeStep) + 2) +
-                        argumentByte(static_cast<int>(correction)) + argumentByte(1) +
-                        argumentByte(length) + argumentByte(lengthHigh));
-    const int sent = printerSession.sendText(text.toUtf8());
-    printerSession.send(CMD_LF);
+    printer.send(CMD_QR_BEMA);
+    printer.send(argumentByte(static_cast<int>(sizeStep) + 2) +
+                 argumentByte(static_cast<int>(correction)) + argumentByte(1) +
+                 argumentByte(length) + argumentByte(lengthHigh));
+    const int sent = printer.sendText(text.toUtf8());
+    printer.send(CMD_LF);
     if (sent < 1)
         return sent;
     logReturn({"ImpressaoQRCodeBEMA"}, Q7_OK); // the name's case differs from the call's line
     return Q7_OK;
 }
 
-int printBemaBarcode(PrinterSession& printerSession, int type, const QByteArray& data,
-                     int heightDots, int moduleWidthDots, int hri)
+int printBemaBarcode(PrinterSession& printer, int type, Bytes data, int heightDots,
+                     int moduleWidthDots, int hri)
 {
-    const char* text = data.constData();
-    logCall({"ImpressaoCodigoBarrasBema"}, std::tie(type, text, heightDots, moduleWidthDots, hri));
+    logCall({"ImpressaoCodigoBarrasBema"},
+            std::make_tuple(type, data.data(), heightDots, moduleWidthDots, hri));
     const bool hasSelector = type == Code128 && hasSubsetSelector(data);
-    const QByteArray content = hasSelector ? data.mid(2) : data;
-    printerSession.send(CMD_BARCODE + argumentByte(type + firstLengthPrefixedType) +
-                        argumentByte(content.size()));
-    return printerSession.sendText(content);
+    const Bytes content = hasSelector ? Bytes(data.substr(2)) : data;
+    printer.send(CMD_BARCODE + argumentByte(type + firstLengthPrefixedType) +
+                 argumentByte(static_cast<int>(content.size())));
+    return printer.sendText(content);
 }
 
 } // namespace q7

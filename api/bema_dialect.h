@@ -3,8 +3,6 @@
 
 #include "printer_session.h"
 
-#include <QByteArray>
-
 namespace q7
 {
 
@@ -12,13 +10,13 @@ namespace q7
  *  higher values pass. A line feed goes first, before the arguments are looked at.
  *  Returns 0; Q7_ERR_QR_EMPTY, _QR_SIZE, _QR_LEVEL, or the failed send's result.
  *  ESC/POS: GS k Q. */
-int printBemaQrCode(PrinterSession& printerSession, const char* data, int moduleSize, int level);
+int printBemaQrCode(PrinterSession& printer, const char* data, int moduleSize, int level);
 
 /** Prints a barcode; logs as "ImpressaoCodigoBarrasBema". The arguments are those of
- *  ImpressaoCodigoBarras, already checked. A Code 128 subset selector is dropped: this printer
+ *  ImpressaoCodigoBarras, already checked; the data ends with a zero byte behind it. A Code 128 subset selector is dropped: this printer
  *  chooses the subset itself.
  *  Returns the data's send result. ESC/POS: GS k m n (function B). */
-int printBemaBarcode(PrinterSession& printerSession, int type, const QByteArray& data,
-                     int heightDots, int moduleWidthDots, int hri);
+int printBemaBarcode(PrinterSession& printer, int type, Bytes data, int heightDots,
+                     int moduleWidthDots, int hri);
 
 } // namespace q7

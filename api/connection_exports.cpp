@@ -22,55 +22,53 @@ bool isSerialSpeed(int bitsPerSecond)
 
 // An open connection is abandoned as it stands: the application has lost it by opening again, but
 // what the printer is still being sent must not break off.
-void startNewConnection(PrinterSession& printerSession)
+void startNewConnection(PrinterSession& printer)
 {
-    printerSession.escreverLer.reset();
-    if (printerSession.isOpen()) {
-        printerSession.connection->endCall();
-        static_cast<void>(printerSession.connection.release());
+    printer.escreverLer.reset();
+    if (printer.isOpen()) {
+        printer.connection->endCall();
+        static_cast<void>(printer.connection.release());
     }
     // Never open from birth, so that Q7_ERR_ALREADY_OPEN is not to be had any more.
-    printerSession.connection = std::make_unique<PrinterConnection>();
+    printer.connection = std::make_unique<PrinterConnection>();
 }
 
-Outcome open(PrinterSession& printerSession, int kind, const QString& model,
-             const QString& connectionText, int number)
+Outcome open(PrinterSession& printer, int kind, const QString& model, const QString& connectionText,
+             int number)
 {
     if (kind < UsbConnection || kind > NetworkConnection)
-        return returned(Q7_ERR_KIND);
+        return logged(Q7_ERR_KIND);
 
     if (const PrinterModel* row = modelByName(model))
-        printerSession.modelIndex = row->id;
-    else if (printerSession.lastResult != 0)
-        return returned(Q7_ERR_MODEL);
+        printer.modelIndex = row->id;
+    else if (printer.lastResult != 0)
+        return logged(Q7_ERR_MODEL);
     // else an unknown name passes while the last result is 0 (after loading, opening or closing),
     // with the model of before: applications open first with a name of their own.
 
-    printerSession.lastResult = Q7_ERR_FAILED;
+    printer.lastResult = Q7_ERR_FAILED;
     if (kind == SerialConnection && !isSerialSpeed(number))
-        return refused(Q7_ERR_SPEED);
+        return unlogged(Q7_ERR_SPEED);
 
-    PrinterConnection& connection = *printerSession.connection;
+    PrinterConnection& connection = *printer.connection;
     connection.setKind(kind);
-    printerSession.lastResult = connection.open(connectionText, model, number);
-    if (printerSession.lastResult == Q7_OK)
-        printerSession.escreverLer = std::make_unique<EscreverLer>(connection);
-    return returned(printerSession.lastResult);
+    printer.lastResult = connection.open(connectionText, model, number);
+    if (printer.lastResult == Q7_OK)
+        printer.escreverLer = std::make_unique<EscreverLer>(connection);
+    return logged(printer.lastResult);
 }
 
 } // namespace
 
 int Q7_CALL AbreConexaoImpressora(int tipo, const char* modelo, const char* conexao, int parametro)
 {
-    return guarded(int{Q7_ERR_FAILED}, [&] {
+    return runExport(int{Q7_ERR_FAILED}, [&](PrinterSession& printer) {
         static constexpr ExportName name = {"AbreConexaoImpressora"};
-        PrinterSession& printerSession = session();
-        const SessionCall call(printerSession);
-        startNewConnection(printerSession);
+        startNewConnection(printer);
         const QString model = QString::fromUtf8(textOrEmpty(modelo)).toUpper();
         const QString connectionText = QString::fromUtf8(textOrEmpty(conexao)).toUpper();
         logCall(name, std::tie(tipo, model, connectionText, parametro));
-        const Outcome outcome = open(printerSession, tipo, model, connectionText, parametro);
+        const Outcome outcome = open(printer, tipo, model, connectionText, parametro);
         if (outcome.isLogged)
             logReturn(name, outcome.result);
         return outcome.result;
@@ -79,11 +77,11 @@ int Q7_CALL AbreConexaoImpressora(int tipo, const char* modelo, const char* cone
 
 int Q7_CALL FechaConexaoImpressora(void)
 {
-    return runSetting({"FechaConexaoImpressora"}, noArguments, [](PrinterSession& printerSession) {
-        printerSession.lastResult = printerSession.connection->close();
-        printerSession.escreverLer.reset();
-        printerSession.connection.reset();
-        return returned(printerSession.lastResult);
+    return runSetting({"FechaConexaoImpressora"}, noArguments, [](PrinterSession& printer) {
+        printer.lastResult = printer.connection->close();
+        printer.escreverLer.reset();
+        printer.connection.reset();
+        return logged(printer.lastResult);
     });
 }
 

@@ -38,7 +38,7 @@ template <typename... Arguments, typename Operation>
 int runLogged(const ExportName& name, const std::tuple<Arguments...>& arguments,
               Operation&& operation) noexcept
 {
-    return guarded(int{Q7_ERR_FAILED}, [&] {
+    return runExport(int{Q7_ERR_FAILED}, [&](PrinterSession& /*printer*/) {
         logCall(name, arguments);
         return whenOpen(operation);
     });
@@ -73,9 +73,9 @@ int Q7_CALL PortClose(void* /*handle*/)
     return whenOpen(FechaConexaoImpressora);
 }
 
-int Q7_CALL PrinterInitialize(void* handle)
+int Q7_CALL PrinterInitialize(void* /*handle*/)
 {
-    return PrtPrinterInitialize(handle);
+    return whenOpen(InicializaImpressora);
 }
 
 // ---------------------------------------------------------------- text
@@ -160,8 +160,9 @@ int Q7_CALL PrintSymbol(void* /*handle*/, int /*type*/, const char* data, int er
 
 int Q7_CALL PrintNVImage(void* /*handle*/, int k1, int k2)
 {
-    return guarded(int{Q7_ERR_FAILED}, [&] {
-        const QByteArray key = QString::fromLatin1(argumentByte(k1) + argumentByte(k2)).toUtf8();
+    return runExport(int{Q7_ERR_FAILED}, [&](PrinterSession& /*printer*/) {
+        const char characters[] = {static_cast<char>(k1), static_cast<char>(k2)};
+        const QByteArray key = QString::fromLatin1(characters, 2).toUtf8();
         constexpr int noScale = 0; // always refused: nothing is ever printed
         return ImprimeImagemMemoria(key.constData(), noScale);
     });
@@ -179,9 +180,9 @@ int Q7_CALL FeedLine(void* /*handle*/, int lines)
     return whenOpen(AvancaPapel, lines);
 }
 
-int Q7_CALL CutPaper(void* handle, int lines)
+int Q7_CALL CutPaper(void* /*handle*/, int lines)
 {
-    return PrtCutPaper(handle, lines);
+    return whenOpen(Corte, lines);
 }
 
 int Q7_CALL OpenDrawer(void* /*handle*/, int pin, int onTime, int offTime)
@@ -233,9 +234,12 @@ int Q7_CALL SelectPageMode(void* /*handle*/)
     return whenOpen(ModoPagina);
 }
 
-int Q7_CALL SelectStandardMode(void* handle)
+int Q7_CALL SelectStandardMode(void* /*handle*/)
 {
-    return PrtSelectStandardMode(handle);
+    return whenOpen([] {
+        session().lastResult = session().send(CMD_STANDARD_MODE);
+        return int{Q7_OK}; // whatever became of the send
+    });
 }
 
 int Q7_CALL SelectPrintDirectionInPageMode(void* /*handle*/, int direction)

@@ -3,24 +3,24 @@
 namespace q7
 {
 
-SessionCall::SessionCall(PrinterSession& printerSession) : m_session(printerSession)
+SessionCall::SessionCall() : m_isOutermost(session().callDepth == 0)
 {
-    if (m_session.callDepth == 0) {
-        m_brokenPipe.emplace(SignalBlock::BrokenPipe);
-        if (m_session.connection)
-            m_session.connection->beginCall();
-    }
+    if (m_isOutermost && session().connection)
+        session().connection->beginCall();
     // Last: what failed before it, for want of memory, has no destructor to take it back.
-    ++m_session.callDepth;
+    ++session().callDepth;
 }
 
 SessionCall::~SessionCall()
 {
-    guarded(0, [this] {
-        if (--m_session.callDepth == 0 && m_session.connection)
-            m_session.connection->endCall();
-        return 0;
-    });
+    --session().callDepth;
+    if (!m_isOutermost || !session().connection)
+        return;
+    try {
+        session().connection->endCall();
+    } catch (...) {
+        // No memory: the next call hands over what was left.
+    }
 }
 
 void logExportLine(const ExportName& name, const char* label, const QString& text)

@@ -1,14 +1,13 @@
-// The frame that every export runs in: log the call, test the link, run, log the result.
+// The frame that every export runs in: take the turn, log the call, test the link, run, log the
+// result.
 #pragma once
 
-#include "foreign_thread.h"
+#include "guest.h"
 #include "log.h"
 #include "printer_session.h"
 #include "q7_impressora.h"
-#include "signal_block.h"
 
 #include <QString>
-#include <optional>
 #include <tuple>
 
 namespace q7
@@ -21,22 +20,22 @@ struct Outcome {
 };
 
 /** The result, told in a RETORNO line. */
-constexpr Outcome returned(int result)
+constexpr Outcome logged(int result)
 {
     return {result, true};
 }
 
-/** A refusal or a failed send: no RETORNO line. */
-constexpr Outcome refused(int code)
+/** The result without a RETORNO line, as refusals and failed sends have none. */
+constexpr Outcome unlogged(int result)
 {
-    return {code, false};
+    return {result, false};
 }
 
 /** Keeps a send's result as the session's last. 0 when it wrote something, else the result. */
-inline Outcome returnedIfSent(PrinterSession& printerSession, int sendResult)
+inline Outcome loggedIfSent(PrinterSession& printer, int sendResult)
 {
-    printerSession.lastResult = sendResult;
-    return sendResult < 1 ? refused(sendResult) : returned(Q7_OK);
+    printer.lastResult = sendResult;
+    return sendResult < 1 ? unlogged(sendResult) : logged(Q7_OK);
 }
 
 enum class LogText { Utf8, Latin1 };
@@ -49,20 +48,22 @@ struct ExportName {
     const char* returnLabel = ". RETORNO:";
 };
 
-/** One export under way. When the outermost ends, the sends of all leave together. While it runs,
- *  the link is the calling thread's alone. */
+/** One export under way, perhaps within another. Other threads wait for the end of the outermost,
+ *  with which the sends of all leave together. */
 class SessionCall
 {
 public:
-    explicit SessionCall(PrinterSession& printerSession);
+    SessionCall();
     ~SessionCall();
     SessionCall(const SessionCall&) = delete;
     SessionCall& operator=(const SessionCall&) = delete;
 
+    bool isOutermost() const { return m_isOutermost; }
+
 private:
-    PrinterSession& m_session;
+    const Turn m_turn;
+    const bool m_isOutermost;
     LogCall m_log;
-    std::optional<SignalBlock> m_brokenPipe; // of the outermost
 };
 
 /** A text argument; a null pointer reads as empty text. */
@@ -104,13 +105,16 @@ void logCall(const ExportName& name, const std::tuple<Arguments...>& arguments)
 
 void logReturn(const ExportName& name, int result);
 
-/** Runs everything that is called from outside: no exception leaves it, and no trace of the calling
- *  thread stays. */
-template <typename Result, typename Body> Result guarded(Result onException, Body&& body) noexcept
+/** Runs everything that is called from outside: no exception leaves the outermost export. One that
+ *  leaves an export within another ends that other too, so that no half of a receipt passes for a
+ *  whole one. body: takes the session. */
+template <typename Result, typename Body> Result runExport(Result onException, Body&& body)
 {
-    const ForeignThread thread;
+    const SessionCall call;
+    if (!call.isOutermost())
+        return body(session());
     try {
-        return body();
+        return body(session());
     } catch (...) {
         return onException;
     }
@@ -119,28 +123,23 @@ template <typename Result, typename Body> Result guarded(Result onException, Bod
 /** The guard of the English and the Prt family. Without an open link it answers Q7_ERR_NOT_OPEN and
  *  does nothing, nor is a line logged; else it runs the operation, whose sends leave together. */
 template <typename Operation, typename... Arguments>
-int whenOpen(Operation&& operation, Arguments... arguments) noexcept
+int whenOpen(Operation&& operation, Arguments... arguments)
 {
-    return guarded(int{Q7_ERR_FAILED}, [&] {
-        PrinterSession& printerSession = session();
-        const SessionCall call(printerSession);
-        return printerSession.isOpen() ? operation(arguments...) : int{Q7_ERR_NOT_OPEN};
+    return runExport(int{Q7_ERR_FAILED}, [&](PrinterSession& printer) {
+        return printer.isOpen() ? operation(arguments...) : int{Q7_ERR_NOT_OPEN};
     });
 }
 
 /** The frame without the step that forgets the last result.
  *  body: takes the session, whose link is open; returns an Outcome. */
 template <typename... Arguments, typename Body>
-int runSetting(const ExportName& name, const std::tuple<Arguments...>& arguments,
-               Body&& body) noexcept
+int runSetting(const ExportName& name, const std::tuple<Arguments...>& arguments, Body&& body)
 {
-    return guarded(int{Q7_ERR_FAILED}, [&] {
-        PrinterSession& printerSession = session();
-        const SessionCall call(printerSession);
+    return runExport(int{Q7_ERR_FAILED}, [&](PrinterSession& printer) {
         logCall(name, arguments);
-        if (!printerSession.isOpen())
+        if (!printer.isOpen())
             return int{Q7_ERR_NOT_OPEN};
-        const Outcome outcome = body(printerSession);
+        const Outcome outcome = body(printer);
         if (outcome.isLogged)
             logReturn(name, outcome.result);
         return outcome.result;
@@ -149,19 +148,20 @@ int runSetting(const ExportName& name, const std::tuple<Arguments...>& arguments
 
 /** The whole frame of a command export. */
 template <typename... Arguments, typename Body>
-int runCommand(const ExportName& name, const std::tuple<Arguments...>& arguments,
-               Body&& body) noexcept
+int runCommand(const ExportName& name, const std::tuple<Arguments...>& arguments, Body&& body)
 {
-    session().lastResult = Q7_ERR_FAILED;
-    return runSetting(name, arguments, std::forward<Body>(body));
+    return runExport(int{Q7_ERR_FAILED}, [&](PrinterSession& printer) {
+        printer.lastResult = Q7_ERR_FAILED;
+        return runSetting(name, arguments, body);
+    });
 }
 
 /** The whole of an export that only sends: body returns the result of its last send. */
 template <typename... Arguments, typename Body>
-int runSend(const ExportName& name, const std::tuple<Arguments...>& arguments, Body&& body) noexcept
+int runSend(const ExportName& name, const std::tuple<Arguments...>& arguments, Body&& body)
 {
-    return runCommand(name, arguments, [&](PrinterSession& printerSession) {
-        return returnedIfSent(printerSession, body(printerSession));
+    return runCommand(name, arguments, [&](PrinterSession& printer) {
+        return loggedIfSent(printer, body(printer));
     });
 }
 

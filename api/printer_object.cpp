@@ -18,21 +18,21 @@ PrinterObject& printerObject()
     return theObject;
 }
 
-int PrinterObject::create(const char* modelName) noexcept
+int PrinterObject::create(const char* modelName)
 {
-    return guarded(int{Q7_ERR_FAILED}, [&] {
+    return runExport(int{Q7_ERR_FAILED}, [&](PrinterSession& /*printer*/) {
         m_modelName = textOrEmpty(modelName);
         return int{Q7_OK};
     });
 }
 
-int PrinterObject::open(const char* portText) noexcept
+int PrinterObject::open(const char* portText)
 {
-    return guarded(int{Q7_ERR_FAILED}, [&] {
+    return runExport(int{Q7_ERR_FAILED}, [&](PrinterSession& /*printer*/) {
         const auto port = parsePortText(QString::fromUtf8(textOrEmpty(portText)));
         if (!port)
             return int{Q7_ERR_KIND};
-        return AbreConexaoImpressora(port->kind, m_modelName.constData(),
+        return AbreConexaoImpressora(port->kind, m_modelName.c_str(),
                                      port->address.toUtf8().constData(), port->number);
     });
 }

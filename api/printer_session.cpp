@@ -1,6 +1,5 @@
 #include "printer_session.h"
 
-#include "foreign_thread.h"
 #include "log.h"
 #include "version.h"
 
@@ -10,10 +9,7 @@ namespace
 {
 
 // Never destroyed: an open connection is closed by FechaConexaoImpressora alone.
-PrinterSession& theSession = []() -> PrinterSession& {
-    const ForeignThread thread;
-    return *new PrinterSession;
-}();
+PrinterSession& theSession = *new PrinterSession;
 
 } // namespace
 
@@ -34,36 +30,35 @@ const PrinterModel& PrinterSession::model() const
     return row != nullptr ? *row : modelTable().front();
 }
 
-int PrinterSession::send(const QByteArray& bytes)
+int PrinterSession::send(Bytes bytes)
 {
     return connection ? connection->send(bytes) : int{Q7_ERR_NOT_OPEN};
 }
 
-int PrinterSession::sendText(const QByteArray& bytes)
+int PrinterSession::sendText(Bytes bytes)
 {
-    const int end = bytes.indexOf('\0');
-    return send(end < 0 ? bytes : bytes.left(end));
+    return send(bytes.toFirstZero());
 }
 
-void PrinterSession::sendAll(std::initializer_list<QByteArray> commands)
+void PrinterSession::sendAll(std::initializer_list<Bytes> commands)
 {
-    for (const QByteArray& command : commands)
+    for (const Bytes& command : commands)
         send(command);
 }
 
-void PrinterSession::sendQuery(std::initializer_list<QByteArray> commands)
+void PrinterSession::sendQuery(std::initializer_list<Bytes> commands)
 {
-    if (connection)
-        connection->discardInput();
+    if (escreverLer)
+        escreverLer->discardLateReplies();
     sendAll(commands);
 }
 
-int PrinterSession::readReply(const ReplyIsWhole& isWhole, int timeoutMs)
+int PrinterSession::readReply(const ReplyIsWhole& isWhole, std::chrono::milliseconds timeout)
 {
     replyData.clear();
-    if (!escreverLer || escreverLer->connection() != connection.get())
+    if (!escreverLer)
         return Q7_ERR_NO_REPLY;
-    EscreverLer::Reply reply = escreverLer->readReply(timeoutMs, isWhole);
+    EscreverLer::Reply reply = escreverLer->readReply(timeout, isWhole);
     replyData = std::move(reply.data);
     return reply.status;
 }

@@ -6,8 +6,9 @@
 #include "printer_models.h"
 #include "q7_impressora.h"
 
-#include <QByteArray>
+#include <initializer_list>
 #include <memory>
+#include <string>
 
 namespace q7
 {
@@ -22,21 +23,21 @@ public:
     /** The connected model's row; the first row while modelIndex names none. */
     const PrinterModel& model() const;
 
-    /** Sends bytes through the current connection. Returns their count or a code; see Link::send. */
-    int send(const QByteArray& bytes);
+    /** Sends bytes through the current connection. Returns their count or a code; see PrinterConnection::send. */
+    int send(Bytes bytes);
 
     /** Sends bytes as a zero-terminated string: nothing from the first zero byte on. */
-    int sendText(const QByteArray& bytes);
+    int sendText(Bytes bytes);
 
     /** Sends each byte string on its own; the counts are not looked at. */
-    void sendAll(std::initializer_list<QByteArray> commands);
+    void sendAll(std::initializer_list<Bytes> commands);
 
     /** Sends a query behind which a reply is expected, late answers to earlier ones thrown away. */
-    void sendQuery(std::initializer_list<QByteArray> commands);
+    void sendQuery(std::initializer_list<Bytes> commands);
 
     /** Reads a reply into replyData. Returns 0 when there is one, else Q7_ERR_NO_REPLY.
-     *  timeoutMs: for the reply's end; its beginning has replyTimeoutMs. */
-    int readReply(const ReplyIsWhole& isWhole, int timeoutMs = replyTimeoutMs);
+     *  timeout: for the reply's end; its beginning has replyTimeout. */
+    int readReply(const ReplyIsWhole& isWhole, std::chrono::milliseconds timeout = replyTimeout);
 
     std::unique_ptr<PrinterConnection> connection;
     std::unique_ptr<EscreverLer> escreverLer; // for this connection, or null
@@ -44,7 +45,7 @@ public:
     int modelIndex = 0;    // the connected model's id
     int lineSpacing = 0;   // dots; 0: never set. Kept across connections, nothing clears it
     bool pageMode = false; // kept likewise once ModoPagina was called
-    QByteArray replyData;
+    std::string replyData;
 
     // Of the fiscal receipts.
     bool useWidth2 = false;                // separators span the small font's columns

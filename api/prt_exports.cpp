@@ -2,29 +2,14 @@
 
 #include "commands.h"
 #include "export_frame.h"
-#include "printer_object.h"
 
 using namespace q7;
 
-namespace
-{
-
-/** Sends behind the guard. Returns 0 whatever became of the send. */
-int sendWhenOpen(const QByteArray& command) noexcept
-{
-    return whenOpen([&] {
-        session().lastResult = session().send(command);
-        return int{Q7_OK};
-    });
-}
-
-} // namespace
-
 // ---------------------------------------------------------------- printer object and port
 
-int Q7_CALL PrtPrinterCreator(void* /*handle*/, const char* model)
+int Q7_CALL PrtPrinterCreator(void* handle, const char* model)
 {
-    return printerObject().create(model);
+    return PrinterCreator(handle, model);
 }
 
 int Q7_CALL PrtPrinterDestroy(void* handle)
@@ -32,9 +17,9 @@ int Q7_CALL PrtPrinterDestroy(void* handle)
     return PrinterDestroy(handle);
 }
 
-int Q7_CALL PrtPortOpen(void* /*handle*/, const char* text)
+int Q7_CALL PrtPortOpen(void* handle, const char* text)
 {
-    return printerObject().open(text);
+    return PortOpen(handle, text);
 }
 
 int Q7_CALL PrtPortClose(void* /*handle*/)
@@ -42,9 +27,9 @@ int Q7_CALL PrtPortClose(void* /*handle*/)
     return FechaConexaoImpressora(); // unguarded: a call without a connection is logged
 }
 
-int Q7_CALL PrtPrinterInitialize(void* /*handle*/)
+int Q7_CALL PrtPrinterInitialize(void* handle)
 {
-    return whenOpen(InicializaImpressora);
+    return PrinterInitialize(handle);
 }
 
 // ---------------------------------------------------------------- text
@@ -89,9 +74,9 @@ int Q7_CALL PrtFeedLine(void* handle, int lines)
     return FeedLine(handle, lines);
 }
 
-int Q7_CALL PrtCutPaper(void* /*handle*/, int lines)
+int Q7_CALL PrtCutPaper(void* handle, int lines)
 {
-    return whenOpen(Corte, lines);
+    return CutPaper(handle, lines);
 }
 
 int Q7_CALL PrtOpenDrawer(void* handle, int pin, int onTime, int offTime)
@@ -118,9 +103,9 @@ int Q7_CALL PrtSelectPageMode(void* handle)
     return SelectPageMode(handle);
 }
 
-int Q7_CALL PrtSelectStandardMode(void* /*handle*/)
+int Q7_CALL PrtSelectStandardMode(void* handle)
 {
-    return sendWhenOpen(CMD_STANDARD_MODE);
+    return SelectStandardMode(handle);
 }
 
 int Q7_CALL PrtSelectPrintDirectionInPageMode(void* handle, int direction)
@@ -145,7 +130,11 @@ int Q7_CALL PrtPrintDataInPageMode(void* handle)
 
 int Q7_CALL PrtCancelPrintDataInPageMode(void* /*handle*/)
 {
-    return sendWhenOpen(CMD_ESC); // not CAN: the page stays, the printer awaits a command's rest
+    // Not CAN: the page stays, the printer awaits a command's rest.
+    return whenOpen([] {
+        session().lastResult = session().send(CMD_ESC);
+        return int{Q7_OK}; // whatever became of the send
+    });
 }
 
 int Q7_CALL PrtSetPrintAndReturnStandardMode(void* handle)

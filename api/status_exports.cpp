@@ -10,7 +10,7 @@ using namespace q7;
 namespace
 {
 
-constexpr int directIoTimeoutMs = 500;
+constexpr std::chrono::milliseconds directIoTimeout(500);
 
 char requestByte(int kind) // n of DLE EOT
 {
@@ -26,10 +26,10 @@ char requestByte(int kind) // n of DLE EOT
     }
 }
 
-Q7State stateIn(int kind, const QByteArray& reply)
+Q7State stateIn(int kind, const std::string& reply)
 {
-    const auto byteAt = [&reply](int index) {
-        return index < reply.size() ? static_cast<unsigned char>(reply.at(index)) : 0;
+    const auto byteAt = [&reply](std::size_t index) {
+        return index < reply.size() ? static_cast<unsigned char>(reply[index]) : 0;
     };
     switch (kind) {
     case Q7_STATUS_DRAWER:
@@ -46,28 +46,27 @@ Q7State stateIn(int kind, const QByteArray& reply)
 }
 
 // Returns a Q7State or a negative code.
-int queryState(PrinterSession& printerSession, int kind)
+int queryState(PrinterSession& printer, int kind)
 {
-    const bool isNetwork = printerSession.connection->getKind() == NetworkConnection;
+    const bool isNetwork = printer.connection->getKind() == NetworkConnection;
     if ((kind == Q7_STATUS_SENSOR && !isNetwork) || (kind == Q7_STATUS_DRAWER && isNetwork))
         return Q7_ERR_STATUS_UNAVAILABLE;
 
-    QByteArray query = CMD_STATUS_QUERY;
-    query[query.size() - 1] = requestByte(kind);
-    printerSession.sendQuery({CMD_AUTO_STATUS_OFF, query});
-    const int status =
-        printerSession.readReply(kind == Q7_STATUS_SENSOR ? isNeverWhole : isOneByte);
-    return status != Q7_OK ? status : stateIn(kind, printerSession.replyData);
+    std::string query(CMD_STATUS_QUERY);
+    query.back() = requestByte(kind);
+    printer.sendQuery({CMD_AUTO_STATUS_OFF, query});
+    const int status = printer.readReply(kind == Q7_STATUS_SENSOR ? isNeverWhole : isOneByte);
+    return status != Q7_OK ? status : stateIn(kind, printer.replyData);
 }
 
 // The sum of what the queries find; the first that fails ends it.
-int queryCombinedState(PrinterSession& printerSession)
+int queryCombinedState(PrinterSession& printer)
 {
     struct Query {
         Q7Status kind;
         bool isAsked;
     };
-    const bool isNetwork = printerSession.connection->getKind() == NetworkConnection;
+    const bool isNetwork = printer.connection->getKind() == NetworkConnection;
     const Query queries[] = {{Q7_STATUS_DRAWER, !isNetwork},
                              {Q7_STATUS_COVER, true},
                              {Q7_STATUS_PAPER, true},
@@ -76,7 +75,7 @@ int queryCombinedState(PrinterSession& printerSession)
     for (const Query& query : queries) {
         if (!query.isAsked)
             continue;
-        const int state = queryState(printerSession, query.kind);
+        const int state = queryState(printer, query.kind);
         if (state < 0)
             return state;
         switch (state) {
@@ -103,7 +102,7 @@ int queryCombinedState(PrinterSession& printerSession)
 }
 
 // The reply as Latin-1 text to its first zero byte, or a code in decimal.
-QByteArray identify(PrinterSession& printerSession, int kind)
+std::string identify(PrinterSession& printer, int kind)
 {
     // Applications know the digit behind the first two: the printer, which asks for no second byte,
     // takes it for text.
@@ -112,55 +111,53 @@ QByteArray identify(PrinterSession& printerSession, int kind)
     constexpr int highestKind = 6;
 
     int result = Q7_OK;
-    if (!printerSession.isOpen())
+    if (!printer.isOpen())
         result = Q7_ERR_NOT_OPEN;
     else if (kind < 0 || kind > highestKind)
         result = Q7_ERR_ID_KIND;
     else {
-        printerSession.sendQuery({CMD_PRINTER_ID + requests[kind]});
-        result = printerSession.readReply(endsWithZero);
+        printer.sendQuery({CMD_PRINTER_ID + requests[kind]});
+        result = printer.readReply(endsWithZero);
     }
     if (result != Q7_OK)
-        return QByteArray::number(result);
+        return std::to_string(result);
 
-    QString text = QString::fromUtf8(printerSession.replyData.constData());
+    QString text = QString::fromUtf8(printer.replyData.c_str());
     for (QChar& character : text)
         if (character.unicode() > 0xFF)
             character = QChar(0); // ends the caller's text there
-    return text.toLatin1();
+    return text.toLatin1().toStdString();
 }
 
 } // namespace
 
 int Q7_CALL StatusImpressora(int param)
 {
-    return runCommand({"StatusImpressora"}, std::tie(param), [&](PrinterSession& printerSession) {
+    return runCommand({"StatusImpressora"}, std::tie(param), [&](PrinterSession& printer) {
         if (param < Q7_STATUS_DRAWER || param > Q7_STATUS_ALL)
-            return refused(Q7_ERR_STATUS_KIND);
-        return returned(param == Q7_STATUS_ALL ? queryCombinedState(printerSession)
-                                               : queryState(printerSession, param));
+            return unlogged(Q7_ERR_STATUS_KIND);
+        return logged(param == Q7_STATUS_ALL ? queryCombinedState(printer)
+                                             : queryState(printer, param));
     });
 }
 
 int Q7_CALL DirectIO(const char* comando, int tamanho, char* resposta,
                      unsigned int* tamanhoResposta)
 {
-    return guarded(int{Q7_ERR_FAILED}, [&] {
-        PrinterSession& printerSession = session();
-        const SessionCall call(printerSession);
-        printerSession.lastResult = Q7_ERR_FAILED;
-        if (!printerSession.isOpen())
+    return runExport(int{Q7_ERR_FAILED}, [&](PrinterSession& printer) {
+        printer.lastResult = Q7_ERR_FAILED;
+        if (!printer.isOpen())
             return int{Q7_ERR_NOT_OPEN};
         if (comando != nullptr && tamanho >= 0)
-            printerSession.send(QByteArray(comando, tamanho));
+            printer.send(std::string_view(comando, static_cast<std::size_t>(tamanho)));
         if (resposta == nullptr || tamanhoResposta == nullptr || *tamanhoResposta == 0)
             return int{Q7_ERR_FAILED};
         *tamanhoResposta = 0;
-        const int status = printerSession.readReply(isNeverWhole, directIoTimeoutMs);
+        const int status = printer.readReply(isNeverWhole, directIoTimeout);
         if (status == Q7_OK) {
-            const QByteArray& reply = printerSession.replyData;
+            const std::string& reply = printer.replyData;
             *tamanhoResposta = static_cast<unsigned int>(reply.size());
-            std::memcpy(resposta, reply.constData(), static_cast<std::size_t>(reply.size()));
+            std::memcpy(resposta, reply.data(), reply.size());
         }
         return status;
     });
@@ -168,11 +165,9 @@ int Q7_CALL DirectIO(const char* comando, int tamanho, char* resposta,
 
 char* Q7_CALL IdImpressora(int tipo)
 {
-    return guarded(static_cast<char*>(nullptr), [&] {
-        PrinterSession& printerSession = session();
-        const SessionCall call(printerSession);
-        printerSession.lastResult = Q7_ERR_FAILED;
+    return runExport(static_cast<char*>(nullptr), [&](PrinterSession& printer) {
+        printer.lastResult = Q7_ERR_FAILED;
         logCall({"IdImpressora"}, std::tie(tipo));
-        return strdup(identify(printerSession, tipo).constData()); // the caller keeps it
+        return strdup(identify(printer, tipo).c_str()); // the caller keeps it
     });
 }

@@ -1,41 +1,69 @@
 #include "host_lookup.h"
 
-#include "library_hold.h"
-#include "signal_block.h"
-#include "socket_system.h"
+#include "guest.h"
 
-#include <chrono>
-#include <future>
-#include <thread>
+#include <asio/executor_work_guard.hpp>
+#include <asio/io_context.hpp>
+#include <asio/ip/tcp.hpp>
+#include <asio/post.hpp>
+
+#include <memory>
 
 namespace q7
 {
-
-HostLookup lookUpHost(const QString& host, QDeadlineTimer deadline)
+namespace
 {
-    QHostAddress numeric;
-    if (numeric.setAddress(host))
-        return {{numeric}, false};
-    if (host.isEmpty())
-        return {{}, false};
 
-    std::packaged_task<std::vector<QHostAddress>()> task(
-        [name = host.toLatin1()] { return systemLookUp(name); });
-    std::future<std::vector<QHostAddress>> answer = task.get_future();
-    std::thread resolver;
-    {
-        // The host's signals are for its own threads.
-        const SignalBlock everySignal(SignalBlock::Every);
-        resolver = std::thread(std::move(task));
+// Blocks for as long as the system's resolver does.
+std::vector<asio::ip::address> systemLookUp(const std::string& host)
+{
+    addrinfo hints = {};
+    hints.ai_socktype = SOCK_STREAM;
+    addrinfo* found = nullptr;
+    if (::getaddrinfo(host.c_str(), nullptr, &hints, &found) != 0)
+        return {};
+    const std::unique_ptr<addrinfo, decltype(&::freeaddrinfo)> owner(found, ::freeaddrinfo);
+    std::vector<asio::ip::address> addresses;
+    for (const addrinfo* entry = found; entry != nullptr; entry = entry->ai_next) {
+        asio::ip::tcp::endpoint endpoint;
+        if (entry->ai_addrlen > endpoint.capacity())
+            continue;
+        std::memcpy(endpoint.data(), entry->ai_addr, entry->ai_addrlen);
+        endpoint.resize(entry->ai_addrlen);
+        addresses.push_back(endpoint.address());
     }
-    if (answer.wait_for(std::chrono::milliseconds(deadline.remainingTime())) ==
-        std::future_status::ready) {
-        resolver.join();
-        return {answer.get(), false};
+    return addresses;
+}
+
+/** What a look-up and whoever waits for it share; the last of them lets it go. */
+struct Answer {
+    asio::io_context context{1};
+    asio::executor_work_guard<asio::io_context::executor_type> isAwaited{context.get_executor()};
+    std::vector<asio::ip::address> addresses;
+};
+
+} // namespace
+
+HostLookup lookUpHost(const std::string& host, Deadline deadline)
+{
+    if (host.empty())
+        return {{}, false};
+    std::error_code notNumeric;
+    const asio::ip::address numeric = asio::ip::make_address(host, notNumeric);
+    if (!notNumeric)
+        return {{numeric}, false};
+
+    const auto answer = std::make_shared<Answer>();
+    OwnThread resolver([answer, host] {
+        std::vector<asio::ip::address> found = systemLookUp(host);
+        asio::post(answer->context,
+                   [&to = answer->addresses, found = std::move(found)] { to = found; });
+    });
+    if (answer->context.run_one_until(deadline) > 0) {
+        resolver.stop();
+        return {answer->addresses, false};
     }
-    // The resolver cannot be stopped; the code that it runs must outlive it.
-    keepLibraryLoaded();
-    resolver.detach();
+    resolver.leaveBehind(); // it cannot be stopped
     return {{}, true};
 }
 

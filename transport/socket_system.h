@@ -1,26 +1,31 @@
-// What the system's socket interface offers beyond QTcpSocket.
+// The system's side of sockets.
 #pragma once
 
-#include <QHostAddress>
-#include <QString>
-#include <vector>
+#include <asio/ip/tcp.hpp>
+
+#include <cstddef>
+#include <system_error>
 
 namespace q7
 {
 
-/** Tells the other side that nothing more will come; reading goes on. */
-void shutDownSending(qintptr socketDescriptor);
+using NativeSocket = asio::ip::tcp::socket::native_handle_type;
+
+/** Starts the system's socket layer, where it has to be started. */
+void startSockets();
+
+/** Opens a socket that no program that this process starts inherits. */
+std::error_code openSocket(asio::ip::tcp::socket& socket, const asio::ip::tcp& protocol);
+
+/** Sets a connected socket up for small writes that must not wait for each other. */
+void prepareSocket(NativeSocket socket);
 
 /** Bytes that the system took and that the other side has not acknowledged yet; 0 where the system
  *  does not tell. */
-qint64 bytesInSystem(qintptr socketDescriptor);
+std::size_t bytesInSystem(NativeSocket socket);
 
 /** Acknowledges at once what has arrived, and what arrives next: a printer that sends its reply in
- *  pieces and waits for the acknowledgement of each would otherwise pause longer than replyGapMs. */
-void acknowledgeAtOnce(qintptr socketDescriptor);
-
-/** The addresses of a host name or a numeric address, in the system's order of preference; empty
- *  when there are none. Blocks for as long as the system's resolver does. */
-std::vector<QHostAddress> systemLookUp(const QByteArray& host);
+ *  pieces and waits for the acknowledgement of each would otherwise pause longer than replyGap. */
+void acknowledgeAtOnce(NativeSocket socket);
 
 } // namespace q7

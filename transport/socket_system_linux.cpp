@@ -1,46 +1,55 @@
 #include "socket_system.h"
 
+#include "descriptor_linux.h"
+
+#include <cerrno>
 #include <linux/sockios.h>
-#include <memory>
-#include <netdb.h>
-#include <netinet/in.h>
 #include <netinet/tcp.h>
 #include <sys/ioctl.h>
-#include <sys/socket.h>
 
 namespace q7
 {
-
-void shutDownSending(qintptr socketDescriptor)
+namespace
 {
-    ::shutdown(static_cast<int>(socketDescriptor), SHUT_WR);
+
+void setTcpOption(NativeSocket socket, int option)
+{
+    const int on = 1;
+    ::setsockopt(socket, IPPROTO_TCP, option, &on, sizeof on);
 }
 
-qint64 bytesInSystem(qintptr socketDescriptor)
+} // namespace
+
+void startSockets() {}
+
+std::error_code openSocket(asio::ip::tcp::socket& socket, const asio::ip::tcp& protocol)
+{
+    const int descriptor =
+        aboveStandard(::socket(protocol.family(), SOCK_STREAM | SOCK_CLOEXEC, 0));
+    if (descriptor < 0)
+        return {errno, std::system_category()};
+    std::error_code error;
+    socket.assign(protocol, descriptor, error);
+    if (error)
+        ::close(descriptor);
+    return error;
+}
+
+void prepareSocket(NativeSocket socket)
+{
+    setTcpOption(socket, TCP_NODELAY);
+}
+
+std::size_t bytesInSystem(NativeSocket socket)
 {
     int bytes = 0;
-    return ::ioctl(static_cast<int>(socketDescriptor), SIOCOUTQ, &bytes) == 0 ? bytes : 0;
+    return ::ioctl(socket, SIOCOUTQ, &bytes) == 0 ? static_cast<std::size_t>(bytes) : 0;
 }
 
 // The system returns to delayed acknowledgement by itself: to be asked for before each wait.
-void acknowledgeAtOnce(qintptr socketDescriptor)
+void acknowledgeAtOnce(NativeSocket socket)
 {
-    const int on = 1;
-    ::setsockopt(static_cast<int>(socketDescriptor), IPPROTO_TCP, TCP_QUICKACK, &on, sizeof on);
-}
-
-std::vector<QHostAddress> systemLookUp(const QByteArray& host)
-{
-    addrinfo hints = {};
-    hints.ai_socktype = SOCK_STREAM;
-    addrinfo* found = nullptr;
-    if (::getaddrinfo(host.constData(), nullptr, &hints, &found) != 0)
-        return {};
-    const std::unique_ptr<addrinfo, decltype(&::freeaddrinfo)> owner(found, ::freeaddrinfo);
-    std::vector<QHostAddress> addresses;
-    for (const addrinfo* entry = found; entry != nullptr; entry = entry->ai_next)
-        addresses.emplace_back(entry->ai_addr);
-    return addresses;
+    setTcpOption(socket, TCP_QUICKACK);
 }
 
 } // namespace q7

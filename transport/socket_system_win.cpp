@@ -1,74 +1,67 @@
 #include "socket_system.h"
 
-#include <winsock2.h>
-#include <ws2tcpip.h>
-
-#include <memory>
+#include <mstcpip.h>
 
 namespace q7
 {
 namespace
 {
 
-/** Winsock serves a process from its first start-up call to its last clean-up call. */
-class Winsock
-{
-public:
-    Winsock()
-    {
-        WSADATA data;
-        m_started = ::WSAStartup(MAKEWORD(2, 2), &data) == 0;
-    }
-    ~Winsock()
-    {
-        if (m_started)
-            ::WSACleanup();
-    }
-    Winsock(const Winsock&) = delete;
-    Winsock& operator=(const Winsock&) = delete;
+// Asio would start Winsock while the library loads, which the system forbids. This object, made
+// before any of Asio's, tells it to leave that to us.
+__attribute__((init_priority(101))) const asio::detail::winsock_init<>::manual winsockIsOurs;
 
-private:
-    bool m_started;
-};
+// Winsock takes what one write has, whatever its size, once its buffer has any room: a small one
+// shows how a slow printer moves.
+constexpr int sendBufferBytes = 8192;
 
 } // namespace
 
-void shutDownSending(qintptr socketDescriptor)
+// Once, and never ended: the only place for that would be the unload, where the system forbids it.
+void startSockets()
 {
-    ::shutdown(static_cast<SOCKET>(socketDescriptor), SD_SEND);
+    static const bool isStarted = [] {
+        WSADATA data;
+        return ::WSAStartup(MAKEWORD(2, 2), &data) == 0;
+    }();
+    static_cast<void>(isStarted);
 }
 
-// Winsock keeps the count to itself; its buffers are small enough to show progress all the same.
-qint64 bytesInSystem(qintptr /*socketDescriptor*/)
+std::error_code openSocket(asio::ip::tcp::socket& socket, const asio::ip::tcp& protocol)
+{
+    std::error_code error;
+    socket.open(protocol, error);
+    if (!error)
+        ::SetHandleInformation(reinterpret_cast<HANDLE>(socket.native_handle()),
+                               HANDLE_FLAG_INHERIT, 0);
+    return error;
+}
+
+void prepareSocket(NativeSocket socket)
+{
+    const BOOL noDelay = TRUE;
+    ::setsockopt(socket, IPPROTO_TCP, TCP_NODELAY, reinterpret_cast<const char*>(&noDelay),
+                 sizeof noDelay);
+    ::setsockopt(socket, SOL_SOCKET, SO_SNDBUF, reinterpret_cast<const char*>(&sendBufferBytes),
+                 sizeof sendBufferBytes);
+}
+
+// Winsock keeps the count to itself.
+std::size_t bytesInSystem(NativeSocket /*socket*/)
 {
     return 0;
 }
 
 // Systems that do not know the request acknowledge as they always do.
-void acknowledgeAtOnce(qintptr socketDescriptor)
+void acknowledgeAtOnce(NativeSocket socket)
 {
 #ifndef SIO_TCP_SET_ACK_FREQUENCY
     constexpr DWORD SIO_TCP_SET_ACK_FREQUENCY = _WSAIOW(IOC_VENDOR, 23); // not in every kit
 #endif
     int segments = 1;
     DWORD returned = 0;
-    ::WSAIoctl(static_cast<SOCKET>(socketDescriptor), SIO_TCP_SET_ACK_FREQUENCY, &segments,
-               sizeof segments, nullptr, 0, &returned, nullptr, nullptr);
-}
-
-std::vector<QHostAddress> systemLookUp(const QByteArray& host)
-{
-    const Winsock winsock;
-    addrinfo hints = {};
-    hints.ai_socktype = SOCK_STREAM;
-    addrinfo* found = nullptr;
-    if (::getaddrinfo(host.constData(), nullptr, &hints, &found) != 0)
-        return {};
-    const std::unique_ptr<addrinfo, decltype(&::freeaddrinfo)> owner(found, ::freeaddrinfo);
-    std::vector<QHostAddress> addresses;
-    for (const addrinfo* entry = found; entry != nullptr; entry = entry->ai_next)
-        addresses.emplace_back(entry->ai_addr);
-    return addresses;
+    ::WSAIoctl(socket, SIO_TCP_SET_ACK_FREQUENCY, &segments, sizeof segments, nullptr, 0, &returned,
+               nullptr, nullptr);
 }
 
 } // namespace q7

@@ -3,6 +3,8 @@
 
 #include "usb_discovery.h"
 
+#include <filesystem>
+
 namespace q7
 {
 
@@ -11,17 +13,17 @@ class UsblpPrinters
 public:
     /** classFolder: where the system lists the driver's devices. deviceFolder: where their
      *  character devices are. */
-    explicit UsblpPrinters(QString classFolder = "/sys/class/usbmisc",
-                           QString deviceFolder = "/dev/usb");
+    explicit UsblpPrinters(std::filesystem::path classFolder = "/sys/class/usbmisc",
+                           std::filesystem::path deviceFolder = "/dev/usb");
 
     /** The printer with the lowest number whose identifiers match the model's. */
     UsbSearch find(const QString& model) const;
 
 private:
-    QString identifiersOf(const QString& printer) const;
+    static QString identifiersOf(const std::filesystem::path& entry);
 
-    QString m_classFolder;
-    QString m_deviceFolder;
+    std::filesystem::path m_classFolder;
+    std::filesystem::path m_deviceFolder;
 };
 
 } // namespace q7

@@ -41,17 +41,17 @@ int Q7_CALL ImprimeXMLNFCe(const char* dados, int indexcsc, const char* csc, int
     return runCommand(
         {"ImprimeXMLNFCe"}, std::tie(text, indexcsc, token, param), [&](PrinterSession& printer) {
             if (static_cast<unsigned>(param) > highestOptions)
-                return refused(Q7_ERR_NFCE_OPTIONS);
+                return unlogged(Q7_ERR_NFCE_OPTIONS);
             const FiscalXmlDocument xml(text);
             if (const int result = checkVersion(xml); result != Q7_OK)
-                return refused(result);
+                return unlogged(result);
             const NfceDocument note(xml);
             const int emissionType = note.emissionType.toInt();
             if (emissionType < normalEmission)
-                return refused(Q7_ERR_NFCE_EMISSION);
+                return unlogged(Q7_ERR_NFCE_EMISSION);
             printCopies(printer, note, nfceQrContent(note, indexcsc, QString::fromUtf8(token)),
                         emissionType == normalEmission ? Emission::Normal : Emission::Contingency,
                         param);
-            return returned(Q7_OK);
+            return logged(Q7_OK);
         });
 }

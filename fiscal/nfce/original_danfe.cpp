@@ -117,7 +117,7 @@ private:
     const Emission m_emission;
     const int m_options;
     const int m_columns; // of every line
-    const QByteArray m_codeTable;
+    const std::string m_codeTable;
 };
 
 void OriginalDanfe::printHeading()

@@ -70,11 +70,11 @@ int Q7_CALL ImprimeXMLCancelamentoSAT(const char* dados, const char* assinaturaQ
                           chooseSeparatorWidth(printer);
                           const QString saleSignature = QString::fromUtf8(signature);
                           if (saleSignature.size() != qrSignatureChars)
-                              return refused(Q7_ERR_SIGNATURE);
+                              return unlogged(Q7_ERR_SIGNATURE);
                           const CfeCancelDocument cancellation(xml);
                           if (!cancellation.isCancellation())
-                              return refused(Q7_ERR_FAILED);
+                              return unlogged(Q7_ERR_FAILED);
                           printCancellationExtract(printer, cancellation, saleSignature, param);
-                          return returned(Q7_OK);
+                          return logged(Q7_OK);
                       });
 }

@@ -134,6 +134,6 @@ int Q7_CALL ImprimeXMLSAT(const char* dados, int param)
     return runCommand({"ImprimeXMLSAT"}, std::tie(xml), [&](PrinterSession& printer) {
         chooseSeparatorWidth(printer);
         printSaleExtract(printer, CfeSaleDocument(xml), param);
-        return returned(Q7_OK);
+        return logged(Q7_OK);
     });
 }

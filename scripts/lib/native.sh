@@ -1,7 +1,7 @@
 # Shared by the scripts that build for this machine. Sourced after debian.sh.
 
-readonly library_packages=(cmake ninja-build g++ qtbase5-dev libqt5serialport5-dev libasio-dev
-    libsimpleini-dev libxml2-dev)
+readonly library_packages=(cmake ninja-build g++ qtbase5-dev libasio-dev libsimpleini-dev
+    libxml2-dev)
 readonly printer_packages=(libzint-dev liblodepng-dev libfreetype-dev libcli11-dev
     libcpp-httplib-dev nlohmann-json3-dev fonts-dejavu-core)
 readonly test_packages=(libgtest-dev libbenchmark-dev libzbar-dev libxml2-utils)

@@ -14,7 +14,7 @@
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
-#include <sys/stat.h>
+#include <termios.h>
 #include <thread>
 #include <unistd.h>
 
@@ -55,9 +55,7 @@ protected:
 
     UsbSearch find(const char* model) const
     {
-        return UsblpPrinters(QString::fromStdString(classFolder),
-                             QString::fromStdString(deviceFolder))
-            .find(model);
+        return UsblpPrinters(classFolder, deviceFolder).find(model);
     }
 
     std::string deviceOf(int number) const { return deviceFolder + "/lp" + std::to_string(number); }
@@ -109,12 +107,13 @@ TEST_F(Usb, PrintsReadsAndCloses)
     ASSERT_EQ(0, open("VANTA")); // asks nothing
     EXPECT_TRUE(connection.isOpen());
     EXPECT_EQ(3, connection.send("abc"));
-    EXPECT_EQ(3, connection.send(QByteArray::fromStdString(hex("1D 49 43"))));
+    EXPECT_EQ(3, connection.send(hex("1D 49 43")));
     EscreverLer reader(connection);
-    const EscreverLer::Reply reply = reader.readReply(1500, endsWithZero);
+    const EscreverLer::Reply reply =
+        reader.readReply(std::chrono::milliseconds(1500), endsWithZero);
     EXPECT_EQ(0, reply.status);
-    EXPECT_EQ("_VANTA" + std::string(1, '\0'), reply.data.toStdString());
-    EXPECT_EQ(-81, reader.readReply(100, isOneByte).status);
+    EXPECT_EQ("_VANTA" + std::string(1, '\0'), reply.data);
+    EXPECT_EQ(-81, reader.readReply(std::chrono::milliseconds(100), isOneByte).status);
     EXPECT_EQ(0, connection.close());
     EXPECT_FALSE(connection.isOpen());
     EXPECT_EQ(-4, connection.close());
@@ -147,31 +146,33 @@ TEST_F(Usb, AVanishedDeviceGivesTheSystemsError)
 
 TEST_F(Usb, APrinterThatStopsReadingIsWaitedForOnceUntilItMoves)
 {
-    add(0, "VANTA");
-    const std::string device = deviceOf(0);
-    ASSERT_EQ(0, ::mkfifo(device.c_str(), 0600));
+    const int printer = ::posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK);
+    ASSERT_EQ(0, ::grantpt(printer) + ::unlockpt(printer));
+    termios raw = {};
+    ::cfmakeraw(&raw);
+    ::tcsetattr(printer, TCSANOW, &raw);
+    add(0, "VANTA", ::ptsname(printer));
     ASSERT_EQ(0, open("VANTA"));
-    while (connection.send(QByteArray(64, 'x')) > 0)
+    while (connection.send(std::string(64, 'x')) > 0)
         ; // what the system takes
     const Clock::time_point start = Clock::now();
     for (int line = 0; line < 600; ++line)
         EXPECT_EQ(-44, connection.send("abc\n"));
     EXPECT_LT(Clock::now() - start, std::chrono::seconds(4));
 
-    const int printer = ::open(device.c_str(), O_RDONLY | O_NONBLOCK);
     char buffer[4096];
     while (::read(printer, buffer, sizeof buffer) > 0)
-        ;                               // it moves again
-    const QByteArray more(100000, 'y'); // than the system takes at once
+        ;                                // it moves again
+    const std::string more(100000, 'y'); // than the system takes at once
     std::thread reader([&] {
-        for (ssize_t left = more.size(); left > 0;) {
+        for (auto left = static_cast<ssize_t>(more.size()); left > 0;) {
             std::this_thread::sleep_for(std::chrono::milliseconds(20));
             while (const ssize_t count =
                        std::max<ssize_t>(::read(printer, buffer, sizeof buffer), 0))
                 left -= count;
         }
     });
-    EXPECT_EQ(more.size(), connection.send(more));
+    EXPECT_EQ(static_cast<int>(more.size()), connection.send(more));
     EXPECT_EQ(0, connection.close());
     reader.join();
     ::close(printer);

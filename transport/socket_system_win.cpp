@@ -32,8 +32,9 @@ std::error_code openSocket(asio::ip::tcp::socket& socket, const asio::ip::tcp& p
     std::error_code error;
     socket.open(protocol, error);
     if (!error)
-        ::SetHandleInformation(reinterpret_cast<HANDLE>(socket.native_handle()),
-                               HANDLE_FLAG_INHERIT, 0);
+        ::SetHandleInformation(
+            reinterpret_cast<HANDLE>(static_cast<SOCKET>(socket.native_handle())),
+            HANDLE_FLAG_INHERIT, 0);
     return error;
 }
 

@@ -432,6 +432,11 @@ enum Q7NfceOption {
     Q7_NFCE_ONE_COPY = 0x200      /**< uma nota em contingência sai numa só via */
 };
 
+/** Limites. */
+enum Q7Limit {
+    Q7_LONGEST_REPLY = 65536 /**< bytes que comportam qualquer resposta de DirectIO */
+};
+
 /* ------------------------------------------------------------------ conexão */
 
 /** Abre a conexão com a impressora.
@@ -680,7 +685,7 @@ Q7_API int Q7_CALL StatusImpressora(int param);
  *  \param tamanho quantidade de bytes; abaixo de 1 não envia nada.
  *  \param[out] resposta memória para a resposta, que precisa ser grande o bastante, diga
  *    tamanhoResposta o que disser: 1024 bytes comportam qualquer resposta por USB; por serial e TCP
- *    vem antes o que a impressora enviou e ninguém leu, e 65536 bytes comportam tudo.
+ *    vem antes o que a impressora enviou e ninguém leu, e Q7_LONGEST_REPLY bytes comportam tudo.
  *  \param[in,out] tamanhoResposta na entrada, 0 se nenhuma resposta é pedida; na saída, a
  *    quantidade de bytes copiados.
  *  \return 0 ou um código; Q7_ERR_FAILED quando nenhuma resposta foi pedida, também com resposta ou
@@ -688,7 +693,7 @@ Q7_API int Q7_CALL StatusImpressora(int param);
  *  \erros Q7_ERR_NOT_OPEN Q7_ERR_NO_REPLY Q7_ERR_FAILED
  *  \efeito na hora.
  *  \escpos o que comando contém.
- *  \exemplo char resposta[65536];
+ *  \exemplo char resposta[Q7_LONGEST_REPLY];
  *    unsigned int quantos = sizeof resposta;
  *    DirectIO("\x1D\x49\x43", 3, resposta, &quantos); */
 Q7_API int Q7_CALL DirectIO(const char* comando, int tamanho, char* resposta,
@@ -700,8 +705,8 @@ Q7_API int Q7_CALL DirectIO(const char* comando, int tamanho, char* resposta,
  *  frente da próxima linha impressa.
  *
  *  \param tipo a pergunta, um valor de Q7Identification.
- *  \return a resposta, até o primeiro byte que não é UTF-8, ou um código em decimal ("-4", "-81",
- *    "-402"), em memória nova que fica com quem chamou.
+ *  \return a resposta, em Latin-1, até o primeiro byte que não era UTF-8, ou um código em decimal
+ *    ("-4", "-81", "-402"), em memória nova que fica com quem chamou.
  *  \erros Q7_ERR_NOT_OPEN Q7_ERR_NO_REPLY Q7_ERR_ID_KIND
  *  \efeito na hora.
  *  \escpos GS I n.
@@ -1099,8 +1104,8 @@ Q7_API int Q7_CALL OpenCashDrawer(void* handle, int pin, int onTime, int offTime
  *  \efeito na hora.
  *  \escpos GS a 0, DLE EOT n.
  *  \exemplo int estado = Q7_PRINTER_READY;
- *    if (GetPrinterState(0, &estado) == Q7_OK && estado == Q7_PRINTER_PAPER_OUT) puts("sem
- *    papel"); */
+ *    GetPrinterState(0, &estado);
+ *    if (estado == Q7_PRINTER_PAPER_OUT) puts("sem papel"); */
 Q7_API int Q7_CALL GetPrinterState(void* handle, int* state);
 
 /** Pergunta o sinal da gaveta, com StatusImpressora e Q7_STATUS_DRAWER. Protegida.

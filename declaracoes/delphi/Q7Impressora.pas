@@ -1,0 +1,1838 @@
+// Gerado a partir de q7_impressora.h por scripts/declarations; não altere.
+//
+// Impressoras de cupom e documentos fiscais, pela biblioteca Q7_Impressora, para Delphi (desde o 7)
+// e Free Pascal. No Windows a biblioteca é de 32 bits: compile o programa para Win32. Os textos vão
+// para ela em UTF-8, e os que ela devolve são lidos sem ser liberados.
+unit Q7Impressora;
+
+{$IFDEF FPC}
+  {$MODE DELPHI}
+  {$CODEPAGE CP1252}
+{$ENDIF}
+
+interface
+
+type
+{$IF DEFINED(FPC) OR DEFINED(UNICODE)}
+  TQ7Texto = UnicodeString;
+{$ELSE}
+  TQ7Texto = WideString;
+{$IFEND}
+
+const
+  // A versão para a qual estas declarações foram feitas; compare com GetVersaoDLL.
+  Q7_VERSION_TEXT = '01.01.00';
+
+  // Q7Result: Códigos de retorno.
+  Q7_OK = 0; // Sucesso
+  Q7_ERR_KIND = -2; // Tipo de conexão desconhecido
+  Q7_ERR_MODEL = -3; // Modelo desconhecido, ou a impressora é de outro modelo conhecido
+  Q7_ERR_NOT_OPEN = -4; // Nenhuma conexão aberta
+  Q7_ERR_UNKNOWN_PRINTER = -5; // A impressora não informou um modelo conhecido
+  Q7_ERR_ALREADY_OPEN = -6; // Conexão já aberta
+  Q7_ERR_SPEED = -11; // Velocidade serial não permitida
+  Q7_ERR_SERIAL_NOT_FOUND = -12; // Porta serial não encontrada
+  Q7_ERR_SERIAL_DENIED = -13; // Porta serial em uso ou sem permissão
+  Q7_ERR_SERIAL_UNKNOWN = -14; // Porta serial falhou por motivo desconhecido
+  Q7_ERR_USB_ABSENT = -21; // Impressora USB não encontrada
+  Q7_ERR_USB_OPEN = -22; // A impressora USB não pôde ser aberta
+  Q7_ERR_TCP_PORT = -31; // Porta TCP fora da faixa
+  Q7_ERR_ALIGNMENT = -41; // Alinhamento fora de 0 a 2
+  Q7_ERR_STYLE = -42; // Estilo, negrito ou fonte fora da faixa
+  Q7_ERR_SIZE = -43; // Tamanho fora de 0 a 119, ou espaçamento fora de 1 a 255
+  Q7_ERR_NOT_SENT = -44; // Nada foi enviado
+  Q7_ERR_QR_SIZE = -51; // Tamanho do módulo do QR Code fora de 1 a 6
+  Q7_ERR_QR_LEVEL = -52; // Nível de correção do QR Code fora de 1 a 4
+  Q7_ERR_QR_EMPTY = -53; // Conteúdo do QR Code vazio
+  Q7_ERR_BARCODE_HEIGHT = -61; // Altura do código de barras fora de 1 a 255
+  Q7_ERR_BARCODE_WIDTH = -62; // Largura do módulo do código de barras fora de 1 a 6
+  Q7_ERR_BARCODE_HRI = -63; // Posição do texto do código de barras fora de 1 a 4
+  Q7_ERR_BARCODE_TYPE = -64; // Tipo de código de barras fora de 0 a 8
+  Q7_ERR_BARCODE_DATA = -65; // Dados inválidos para o tipo de código de barras
+  Q7_ERR_XSD = -71; // Documento ou esquema inválido
+  Q7_ERR_XSD_MISSING = -72; // Arquivo de esquema ausente
+  Q7_ERR_NO_REPLY = -81; // A impressora não respondeu
+  Q7_ERR_SIGNATURE = -91; // A assinatura não tem 344 caracteres
+  Q7_ERR_NFCE_VERSION = -101; // Versão do leiaute da NFC-e diferente de 4.00
+  Q7_ERR_NFCE_NO_VERSION = -102; // Não é uma NFC-e, ou é uma sem o atributo versao
+  Q7_ERR_NFCE_EMISSION = -103; // Tipo de emissão (tpEmis) ausente ou 0
+  Q7_ERR_NFCE_OPTIONS = -104; // Opções da NFC-e acima de 65535
+  Q7_ERR_BUZZER_COUNT = -111; // Quantidade de sinais sonoros acima de 63
+  Q7_ERR_BUZZER_TIME = -112; // Os dois tempos do sinal sonoro acima de 25
+  Q7_ERR_DRAWER_PIN = -121; // Pino da gaveta acima de 1
+  Q7_ERR_DRAWER_TIME = -122; // Um tempo da gaveta acima de 255
+  Q7_ERR_STATUS_UNAVAILABLE = -126; // Estado não disponível nesta conexão
+  Q7_ERR_STATUS_KIND = -127; // Pergunta de estado fora de 1 a 5
+  Q7_ERR_IMAGE_KEY = -131; // A chave da imagem não são dois caracteres visíveis
+  Q7_ERR_IMAGE_SCALE = -132; // Escala da imagem fora de 1 a 2
+  Q7_ERR_DIRECTION = -136; // Direção de impressão fora de 0 a 3
+  Q7_ERR_POSITION = -137; // Posição horizontal acima de 500
+  Q7_ERR_ID_KIND = -402; // Pergunta de identificação fora de 0 a 6
+  Q7_ERR_FAILED = -9999; // Sem resultado: nada foi enviado, ou outra falha
+
+  // Q7NetError: Números positivos que AbreConexaoImpressora devolve quando a conexão TCP falha.
+  Q7_NET_REFUSED = 0; // conexão recusada: parece sucesso, veja as convenções
+  Q7_NET_CLOSED = 1; // fechada pelo outro lado
+  Q7_NET_HOST_NOT_FOUND = 2; // nome ou endereço não encontrado
+  Q7_NET_NOT_PERMITTED = 3; // o sistema não permitiu
+  Q7_NET_NO_RESOURCES = 4; // faltam recursos ao sistema
+  Q7_NET_TIMEOUT = 5; // sem resposta em 2000 ms
+  Q7_NET_UNREACHABLE = 7; // rede fora do alcance
+
+  // Q7Connection: Tipos de conexão.
+  Q7_CONNECTION_USB = 1; // USB
+  Q7_CONNECTION_SERIAL = 2; // porta serial (COM)
+  Q7_CONNECTION_TCP = 3; // rede (TCP)
+
+  // Q7Alignment: Alinhamentos.
+  Q7_ALIGN_LEFT = 0; // à esquerda; em ImpressaoTexto: deixa o alinhamento como está
+  Q7_ALIGN_CENTER = 1; // centralizado
+  Q7_ALIGN_RIGHT = 2; // à direita
+
+  // Q7Style: Estilos de texto, que se somam.
+  Q7_STYLE_NORMAL = 0; // nenhum
+  Q7_STYLE_SMALL = 1; // fonte pequena; com Q7_STYLE_UNDERLINE, perde-se
+  Q7_STYLE_UNDERLINE = 2; // sublinhado
+  Q7_STYLE_REVERSE = 4; // branco sobre preto
+  Q7_STYLE_BOLD = 8; // negrito
+
+  // Q7Size: Tamanhos de caractere: (fator de largura - 1) * 16 + (fator de altura - 1), de 0 a 119.
+  Q7_SIZE_NORMAL = 0; // deixa o tamanho como está
+  Q7_SIZE_DOUBLE_HEIGHT = 1; // altura dupla
+  Q7_SIZE_DOUBLE_WIDTH = 16; // largura dupla
+  Q7_SIZE_DOUBLE = 17; // largura e altura duplas
+  Q7_SIZE_TRIPLE = 34; // largura e altura triplas
+  Q7_SIZE_LARGEST = 119; // largura e altura óctuplas
+
+  // Q7Font: Fontes de SetTextFont.
+  Q7_FONT_NORMAL = 0; // fonte normal
+  Q7_FONT_SMALL = 1; // fonte pequena
+
+  // Q7Barcode: Códigos de barras.
+  Q7_BARCODE_UPC_A = 0; // UPC-A
+  Q7_BARCODE_UPC_E = 1; // UPC-E
+  Q7_BARCODE_EAN13 = 2; // EAN-13
+  Q7_BARCODE_EAN8 = 3; // EAN-8
+  Q7_BARCODE_CODE39 = 4; // CODE39
+  Q7_BARCODE_ITF = 5; // ITF (2 de 5 intercalado)
+  Q7_BARCODE_CODABAR = 6; // CODABAR
+  Q7_BARCODE_CODE93 = 7; // CODE93
+  Q7_BARCODE_CODE128 = 8; // CODE128
+
+  // Q7Hri: Posições do texto de um código de barras.
+  Q7_HRI_ABOVE = 1; // acima
+  Q7_HRI_BELOW = 2; // abaixo
+  Q7_HRI_BOTH = 3; // acima e abaixo
+  Q7_HRI_OTHER = 4; // enviado como está: a impressora decide
+
+  // Q7QrLevel: Níveis de correção de erros do QR Code.
+  Q7_QR_LEVEL_L = 1; // nível L, cerca de 7%
+  Q7_QR_LEVEL_M = 2; // nível M, cerca de 15%
+  Q7_QR_LEVEL_Q = 3; // nível Q, cerca de 25%
+  Q7_QR_LEVEL_H = 4; // nível H, cerca de 30%
+
+  // Q7ImageScale: Escalas das imagens gravadas na impressora.
+  Q7_IMAGE_NORMAL = 1; // como gravada
+  Q7_IMAGE_DOUBLE = 2; // largura e altura duplas
+
+  // Q7Status: O que StatusImpressora pergunta.
+  Q7_STATUS_DRAWER = 1; // sinal da gaveta; não por TCP
+  Q7_STATUS_COVER = 2; // tampa
+  Q7_STATUS_PAPER = 3; // papel
+  Q7_STATUS_SENSOR = 4; // sensor de papel; só por TCP
+  Q7_STATUS_ALL = 5; // todos os que a conexão tem, numa soma de Q7StateBit
+
+  // Q7State: O que StatusImpressora responde às perguntas de 1 a 4.
+  Q7_STATE_DRAWER_LOW = 1; // sinal da gaveta em nível baixo
+  Q7_STATE_DRAWER_HIGH = 2; // sinal da gaveta em nível alto
+  Q7_STATE_COVER_OPEN = 3; // tampa aberta
+  Q7_STATE_COVER_CLOSED = 4; // tampa fechada
+  Q7_STATE_PAPER_PRESENT = 5; // há papel
+  Q7_STATE_PAPER_NEAR_END = 6; // papel perto do fim
+  Q7_STATE_PAPER_OUT = 7; // sem papel
+  Q7_STATE_SENSOR_CLEAR = 8; // sensor sem sinal
+  Q7_STATE_SENSOR_SIGNALLED = 9; // sensor com sinal
+
+  // Q7StateBit: De que se soma a resposta de StatusImpressora a Q7_STATUS_ALL; 0 é a impressora
+  // pronta.
+  Q7_STATE_BIT_DRAWER_LOW = 1; // sinal da gaveta em nível baixo
+  Q7_STATE_BIT_COVER_OPEN = 2; // tampa aberta
+  Q7_STATE_BIT_PAPER_NEAR_END = 4; // papel perto do fim, ou no fim
+  Q7_STATE_BIT_PAPER_OUT = 8; // sem papel; vem com o anterior
+  Q7_STATE_BIT_SENSOR_SIGNALLED = 16; // sensor com sinal
+
+  // Q7PrinterState: O que GetPrinterState escreve.
+  Q7_PRINTER_READY = 0; // pronta
+  Q7_PRINTER_PAPER_OUT = 1; // sem papel
+  Q7_PRINTER_COVER_OPEN = 2; // tampa aberta
+  Q7_PRINTER_PAPER_NEAR_END = 4; // papel perto do fim
+  Q7_PRINTER_COVER_OPEN_PAPER_OUT = 5; // tampa aberta e sem papel
+  Q7_PRINTER_COVER_OPEN_PAPER_NEAR_END = 6; // tampa aberta e papel perto do fim
+
+  // Q7Identification: O que IdImpressora pergunta.
+  Q7_ID_MODEL_NUMBER = 0; // número do modelo
+  Q7_ID_TYPE_NUMBER = 1; // número do tipo
+  Q7_ID_FIRMWARE = 2; // versão do firmware
+  Q7_ID_MAKER = 3; // fabricante
+  Q7_ID_MODEL = 4; // nome do modelo
+  Q7_ID_SERIAL = 5; // número de série
+  Q7_ID_FONTS = 6; // fontes
+
+  // Q7Direction: Direções de impressão no modo página.
+  Q7_DIRECTION_LEFT_TO_RIGHT = 0; // da esquerda para a direita
+  Q7_DIRECTION_BOTTOM_TO_TOP = 1; // de baixo para cima
+  Q7_DIRECTION_RIGHT_TO_LEFT = 2; // da direita para a esquerda
+  Q7_DIRECTION_TOP_TO_BOTTOM = 3; // de cima para baixo
+
+  // Q7CfeOption: Opções do CF-e (ImprimeXMLSAT; a primeira também em ImprimeXMLCancelamentoSAT),
+  // que se somam.
+  Q7_CFE_LOGO = 1; // cabeçalho ao lado da imagem "00" gravada na impressora
+  Q7_CFE_NO_ITEMS = 2; // sem os itens
+  Q7_CFE_TEST = 4; // aviso de teste sob o título
+
+  // Q7NfceOption: Opções da NFC-e (ImprimeXMLNFCe), que se somam.
+  Q7_NFCE_NO_ITEMS = 1; // sem os itens
+  Q7_NFCE_GTIN = 2; // coluna larga de código, com o GTIN
+  Q7_NFCE_LOGO = 8; // cabeçalho ao lado da imagem "00" gravada na impressora
+  Q7_NFCE_TEST = 16; // aviso de ambiente de homologação
+  Q7_NFCE_SEPARATORS = 64; // linhas separadoras entre as divisões
+  Q7_NFCE_ISSUER_IE = 128; // inscrição estadual do emitente no cabeçalho
+  Q7_NFCE_ITEM_NUMBERS = 256; // número de cada item
+  Q7_NFCE_ONE_COPY = 512; // uma nota em contingência sai numa só via
+
+  // Q7Limit: Limites.
+  Q7_LONGEST_REPLY = 65536; // bytes que comportam qualquer resposta de DirectIO
+
+// Diz o que um código de retorno significa e o que fazer.
+function Mensagem(codigo: Integer): TQ7Texto;
+
+// Abre a conexão com a impressora.
+// Modelos e suas colunas por linha, na fonte normal e na pequena: VANTA, VESPA, VOLTA, PINTA, SALVI
+// e DUNEL 48 e 64; ORLA-K e SORBE 42 e 56; RANZA, RANZAPRO e TESMO não têm largura definida.
+// Impressoras seriais e TCP são perguntadas pelo nome do modelo (GS I 67; TESMO: ~HI) e têm 750 ms
+// para responder; a conexão TCP é esperada por até 2000 ms. Uma conexão TCP recusada devolve Q7_OK,
+// veja as convenções.
+// Uma conexão que já está aberta é abandonada, não fechada: chame FechaConexaoImpressora antes.
+// Códigos: Q7_ERR_KIND, Q7_ERR_MODEL, Q7_ERR_UNKNOWN_PRINTER, Q7_ERR_SPEED,
+// Q7_ERR_SERIAL_NOT_FOUND, Q7_ERR_SERIAL_DENIED, Q7_ERR_SERIAL_UNKNOWN, Q7_ERR_USB_ABSENT,
+// Q7_ERR_USB_OPEN, Q7_ERR_TCP_PORT, Q7_ERR_FAILED.
+// Efeito: na hora.
+// ESC/POS: GS I 67, por serial e TCP.
+//   tipo: tipo de conexão, um valor de Q7Connection.
+//   modelo: nome do modelo, em maiúsculas ou minúsculas. Enquanto o último resultado é 0 (depois da
+//   carga, de abrir ou de fechar) qualquer outro nome também passa e deixa o modelo como estava.
+//   conexao: porta serial ("COM3"; no Linux "ttyUSB0" ou um caminho), nome ou endereço TCP;
+//   ignorado na USB.
+//   parametro: bits por segundo (300, 1200, 2400, 4800, 9600, 19200, 38400, 57600 ou 115200) ou
+//   porta TCP, de 0 a 65535 (9100 é usual); ignorado na USB.
+// Devolve 0, um código, ou um número positivo de erro do sistema ou da rede (Q7NetError).
+function AbreConexaoImpressora(tipo: Integer; const modelo: TQ7Texto; const conexao: TQ7Texto; parametro: Integer): Integer;
+
+// Fecha a conexão depois que o que foi aceito foi entregue.
+// Desiste depois de 5 s em que nada anda; o que falta então se perde, e o log diz isso.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_FAILED.
+// Efeito: na hora.
+// ESC/POS: nenhum.
+// Devolve 0, um código, ou, na USB, um número positivo de erro do sistema.
+function FechaConexaoImpressora: Integer;
+
+// Diz a versão da biblioteca.
+// Efeito: nenhum; não precisa de conexão.
+// ESC/POS: nenhum.
+// Devolve o texto "01.01.00", em memória nova que fica com quem chamou.
+function GetVersaoDLL: TQ7Texto;
+
+// Imprime um texto.
+// Se nenhum espaçamento foi guardado (EspacamentoEntreLinhas) e ModoPagina não foi chamada, a
+// impressora é reiniciada antes: alinhamento, estilo e tamanho começam de novo, e uma linha ainda
+// sem "\n" se perde.
+// Por TCP e serial a contagem tem 16 bits e dá a volta em textos de 32768 bytes ou mais: 40000
+// bytes devolvem Q7_ERR_NOT_SENT embora saiam. Imprima textos assim em partes.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_ALIGNMENT, Q7_ERR_STYLE, Q7_ERR_SIZE, Q7_ERR_NOT_SENT.
+// Efeito: na hora; a impressora imprime cada linha quando recebe o seu "\n".
+// ESC/POS: ESC @ ou ESC 3 n, ESC a n, ESC ! n, GS B 1, ESC E 1, GS ! n, ESC t 16.
+//   dados: o texto, em UTF-8; os fins de linha ("\n") são de quem chama, nenhum é acrescentado.
+//   posicao: alinhamento, um valor de Q7Alignment; 0 deixa como está.
+//   stilo: soma de valores de Q7Style, de 0 a 15. Um estilo vale até a impressora ser reiniciada.
+//   tamanho: tamanho dos caracteres, de 0 a 119 (Q7Size); 0 deixa como está.
+// Devolve a quantidade de bytes do texto enviados, ou um código.
+function ImpressaoTexto(const dados: TQ7Texto; posicao: Integer; stilo: Integer; tamanho: Integer): Integer;
+
+// Guarda o espaçamento entre linhas dos textos que seguem.
+// Depois dela os textos não reiniciam mais a impressora, nem em outra conexão. É a mesma função que
+// SetTextLineSpace.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_SIZE.
+// Efeito: no próximo ImpressaoTexto; a própria função não envia nada.
+// ESC/POS: ESC 3 n, com o próximo ImpressaoTexto.
+//   espacamento: espaçamento em pontos, de 1 a 255.
+// Devolve 0 ou um código.
+function EspacamentoEntreLinhas(espacamento: Integer): Integer;
+
+// Define o alinhamento.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_ALIGNMENT, Q7_ERR_NOT_SENT.
+// Efeito: no que vier a seguir; o próximo ImpressaoTexto o desfaz se reiniciar a impressora.
+// ESC/POS: ESC a n.
+//   posicao: um valor de Q7Alignment; de valores negativos vai o byte baixo.
+// Devolve 0 ou um código.
+function DefinePosicao(posicao: Integer): Integer;
+
+// Reinicia a impressora, que volta às definições de quando é ligada.
+// Uma linha ainda não impressa se perde.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_NOT_SENT.
+// Efeito: na hora.
+// ESC/POS: ESC @.
+// Devolve 0 ou um código.
+function InicializaImpressora: Integer;
+
+// Imprime um QR Code.
+// A SORBE aceita também níveis acima de 4.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_QR_SIZE, Q7_ERR_QR_LEVEL, Q7_ERR_QR_EMPTY, Q7_ERR_NOT_SENT,
+// Q7_ERR_FAILED.
+// Efeito: na hora, com o alinhamento em vigor.
+// ESC/POS: GS ( k, funções 167, 169, 180 e 181; ORLA-K: GS o e GS k 11; SORBE: GS k Q.
+//   dados: o conteúdo. ASCII é seguro; em outros textos o comprimento anunciado à impressora conta
+//   caracteres, não bytes.
+//   tamanho: tamanho do módulo em pontos, de 1 a 6.
+//   nivelCorrecao: nível de correção, um valor de Q7QrLevel.
+// Devolve 0 ou um código.
+function ImpressaoQRCode(const dados: TQ7Texto; tamanho: Integer; nivelCorrecao: Integer): Integer;
+
+// Imprime um código de barras.
+// O que cada tipo aceita: UPC-A 11 ou 12 dígitos; UPC-E 11 ou 12, o primeiro "0"; EAN-13 12 ou 13;
+// EAN-8 7 ou 8; CODE39 de 1 a 255 dígitos, letras maiúsculas e " $%*+-./"; ITF dígitos em
+// quantidade par; CODABAR dígitos e "$+-./:" entre um início e um fim, cada um de A a D ou a a d;
+// CODE93 de 1 a 255 caracteres ASCII; CODE128 texto ASCII atrás de um seletor de subconjunto "{A",
+// "{B" ou "{C", e "{C" seguido de pares de dígitos. A SORBE não precisa do seletor e o descarta.
+// A DUNEL não imprime o texto do código; a SORBE mantém a definição própria.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_BARCODE_TYPE, Q7_ERR_BARCODE_HEIGHT, Q7_ERR_BARCODE_WIDTH,
+// Q7_ERR_BARCODE_HRI, Q7_ERR_BARCODE_DATA, Q7_ERR_NOT_SENT, Q7_ERR_FAILED.
+// Efeito: na hora, com o alinhamento em vigor.
+// ESC/POS: GS h, GS w, GS H, GS k m n (função B).
+//   tipo: um valor de Q7Barcode.
+//   dados: o conteúdo, como acima.
+//   altura: altura em pontos, de 1 a 255.
+//   largura: largura do módulo em pontos, de 1 a 6.
+//   HRI: posição do texto do código, um valor de Q7Hri.
+// Devolve 0 ou um código.
+function ImpressaoCodigoBarras(tipo: Integer; const dados: TQ7Texto; altura: Integer; largura: Integer; HRI: Integer): Integer;
+
+// Imprime uma imagem que a ferramenta do fabricante gravou na memória da impressora.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_IMAGE_KEY, Q7_ERR_IMAGE_SCALE, Q7_ERR_NOT_SENT.
+// Efeito: na hora, com o alinhamento em vigor.
+// ESC/POS: GS ( L, função 69.
+//   chave: os dois caracteres da chave da imagem, cada um de 0x20 a 0x7E.
+//   escala: um valor de Q7ImageScale.
+// Devolve 0 ou um código.
+function ImprimeImagemMemoria(const chave: TQ7Texto; escala: Integer): Integer;
+
+// Avança o papel e corta.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_NOT_SENT.
+// Efeito: na hora.
+// ESC/POS: LF, GS V 0.
+//   avanco: linhas a avançar antes; 0 ou menos não avança.
+// Devolve 0 ou um código.
+function Corte(avanco: Integer): Integer;
+
+// Avança o papel.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_NOT_SENT, Q7_ERR_FAILED.
+// Efeito: na hora.
+// ESC/POS: LF.
+//   linhas: linhas a avançar, a partir de 1; 0 ou menos devolve Q7_ERR_FAILED.
+// Devolve 0 ou um código.
+function AvancaPapel(linhas: Integer): Integer;
+
+// Abre a gaveta.
+// Um tempo 0 encurta o comando, e a impressora toma o que vem depois pelos tempos que faltam: passe
+// de 1 a 255.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_DRAWER_PIN, Q7_ERR_DRAWER_TIME, Q7_ERR_FAILED.
+// Efeito: na hora.
+// ESC/POS: ESC p m t1 t2.
+//   pino: saída da impressora, 0 ou 1.
+//   ti: tempo ligado, em unidades de 2 ms, de 0 a 255.
+//   tf: tempo desligado, em unidades de 2 ms, de 0 a 255.
+// Devolve 0 ou um código.
+function AbreGaveta(pino: Integer; ti: Integer; tf: Integer): Integer;
+
+// Abre a gaveta pela saída 0 com os dois tempos em 200 ms.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_NOT_SENT.
+// Efeito: na hora.
+// ESC/POS: ESC p 48 100 100.
+// Devolve 0 ou um código.
+function AbreGavetaTavlo: Integer;
+
+// Dá sinais sonoros.
+// Só um dos dois tempos pode passar de 25.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_BUZZER_COUNT, Q7_ERR_BUZZER_TIME, Q7_ERR_NOT_SENT.
+// Efeito: na hora.
+// ESC/POS: GS ( A, função 97.
+//   qtd: quantidade de sinais, de 0 a 63.
+//   tempoInicio: duração de cada sinal, em unidades de 100 ms.
+//   tempoFim: pausa depois de cada sinal, em unidades de 100 ms.
+// Devolve 0 ou um código.
+function SinalSonoro(qtd: Integer; tempoInicio: Integer; tempoFim: Integer): Integer;
+
+// Pergunta o estado da impressora.
+// Espera no máximo 1500 ms pela resposta e outro tanto pelo fim dela, a cada pergunta;
+// Q7_STATUS_ALL faz até três.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_NO_REPLY, Q7_ERR_STATUS_UNAVAILABLE, Q7_ERR_STATUS_KIND,
+// Q7_ERR_FAILED.
+// Efeito: na hora.
+// ESC/POS: GS a 0, DLE EOT n.
+//   param: a pergunta, um valor de Q7Status.
+// Devolve para as perguntas de 1 a 4 um valor de Q7State; para Q7_STATUS_ALL a soma de valores de
+// Q7StateBit; ou um código.
+function StatusImpressora(param: Integer): Integer;
+
+// Envia bytes como estão e lê uma resposta.
+// Espera no máximo 1500 ms pelo começo da resposta e 500 ms pelo fim. O log não traz o nome da
+// função; traz os bytes enviados.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_NO_REPLY, Q7_ERR_FAILED.
+// Efeito: na hora.
+// ESC/POS: o que comando contém.
+//   comando: os bytes; nulo não envia nada.
+//   tamanho: quantidade de bytes; abaixo de 1 não envia nada.
+//   resposta: memória para a resposta, que precisa ser grande o bastante, diga tamanhoResposta o
+//   que disser: 1024 bytes comportam qualquer resposta por USB; por serial e TCP vem antes o que a
+//   impressora enviou e ninguém leu, e Q7_LONGEST_REPLY bytes comportam tudo.
+//   tamanhoResposta: na entrada, 0 se nenhuma resposta é pedida; na saída, a quantidade de bytes
+//   copiados.
+// Devolve 0 ou um código; Q7_ERR_FAILED quando nenhuma resposta foi pedida, também com resposta ou
+// tamanhoResposta nulos, embora os bytes tenham sido enviados.
+function DirectIO(comando: PAnsiChar; tamanho: Integer; resposta: PAnsiChar; var tamanhoResposta: Cardinal): Integer;
+
+// Pergunta à impressora quem ela é.
+// Com 0 e 1 vai um algarismo atrás do comando, que as impressoras tomam por texto: ele aparece na
+// frente da próxima linha impressa.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_NO_REPLY, Q7_ERR_ID_KIND.
+// Efeito: na hora.
+// ESC/POS: GS I n.
+//   tipo: a pergunta, um valor de Q7Identification.
+// Devolve a resposta, em Latin-1, até o primeiro byte que não era UTF-8, ou um código em decimal
+// ("-4", "-81", "-402"), em memória nova que fica com quem chamou.
+function IdImpressora(tipo: Integer): TQ7Texto;
+
+// Entra no modo página.
+// Daí em diante os textos não reiniciam mais a impressora, nem depois de ModoPadrao.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_NOT_SENT.
+// Efeito: na hora.
+// ESC/POS: ESC L.
+// Devolve 0 ou um código.
+function ModoPagina: Integer;
+
+// Define a direção de impressão no modo página.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_DIRECTION, Q7_ERR_NOT_SENT.
+// Efeito: no que vier a seguir na página.
+// ESC/POS: ESC T n.
+//   direcao: um valor de Q7Direction.
+// Devolve 0 ou um código.
+function DirecaoImpressao(direcao: Integer): Integer;
+
+// Define a área de impressão no modo página.
+// De valores fora da faixa os dois bytes enviados não significam nada.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_NOT_SENT.
+// Efeito: no que vier a seguir na página.
+// ESC/POS: ESC W.
+//   x: canto esquerdo em pontos, de 0 a 65535.
+//   y: canto superior em pontos, de 0 a 65535.
+//   largura: largura em pontos, de 0 a 65535.
+//   altura: altura em pontos, de 0 a 65535.
+// Devolve 0 ou um código.
+function DefineAreaImpressao(x: Integer; y: Integer; largura: Integer; altura: Integer): Integer;
+
+// Define a posição horizontal absoluta.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_POSITION, Q7_ERR_NOT_SENT.
+// Efeito: no que vier a seguir.
+// ESC/POS: ESC $.
+//   posicao: pontos, de 0 a 500; valores negativos passam, mas os dois bytes enviados não
+//   significam nada.
+// Devolve 0 ou um código.
+function PosicaoImpressaoHorizontal(posicao: Integer): Integer;
+
+// Define a posição vertical absoluta no modo página.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_NOT_SENT.
+// Efeito: no que vier a seguir na página.
+// ESC/POS: GS $.
+//   posicao: pontos, de 0 a 65535; de valores fora da faixa os dois bytes enviados não significam
+//   nada.
+// Devolve 0 ou um código.
+function PosicaoImpressaoVertical(posicao: Integer): Integer;
+
+// Imprime a página e continua no modo página.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_NOT_SENT.
+// Efeito: na hora.
+// ESC/POS: ESC FF.
+// Devolve 0 ou um código.
+function ImprimeModoPagina: Integer;
+
+// Apaga a página sem a imprimir.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_NOT_SENT.
+// Efeito: na hora.
+// ESC/POS: CAN.
+// Devolve 0 ou um código.
+function LimpaBufferModoPagina: Integer;
+
+// Imprime a página e volta ao modo padrão.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_NOT_SENT.
+// Efeito: na hora.
+// ESC/POS: FF.
+// Devolve 0 ou um código.
+function ImprimeMPeRetornaPadrao: Integer;
+
+// Volta ao modo padrão; uma página não impressa se perde.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_NOT_SENT.
+// Efeito: na hora.
+// ESC/POS: ESC S.
+// Devolve 0 ou um código.
+function ModoPadrao: Integer;
+
+// Imprime o extrato de uma venda CF-e do SAT; não corta.
+// De um documento que não pode ser lido saem só os rótulos, e o resultado é 0.
+// Códigos: Q7_ERR_NOT_OPEN.
+// Efeito: na hora.
+// ESC/POS: os das funções de texto, código de barras e QR Code.
+//   dados: o texto do XML autorizado (raiz CFe), não o nome de um arquivo.
+//   param: soma de valores de Q7CfeOption.
+// Devolve 0 ou um código.
+function ImprimeXMLSAT(const dados: TQ7Texto; param: Integer): Integer;
+
+// Imprime o extrato do cancelamento de um CF-e do SAT; não corta.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_SIGNATURE, Q7_ERR_FAILED.
+// Efeito: na hora.
+// ESC/POS: os das funções de texto, código de barras e QR Code.
+//   dados: o texto do XML do cancelamento (raiz CFeCanc), não o nome de um arquivo.
+//   assinaturaQRCODE: a assinatura da venda cancelada (o elemento desse nome no XML dela), de 344
+//   caracteres.
+//   param: 0 ou Q7_CFE_LOGO.
+// Devolve 0 ou um código; Q7_ERR_FAILED quando o documento não é um cancelamento.
+function ImprimeXMLCancelamentoSAT(const dados: TQ7Texto; const assinaturaQRCODE: TQ7Texto; param: Integer): Integer;
+
+// Imprime o DANFE de uma NFC-e; não corta no fim.
+// Uma nota em contingência sai em duas vias, com um corte entre elas.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_NFCE_OPTIONS, Q7_ERR_NFCE_NO_VERSION, Q7_ERR_NFCE_VERSION,
+// Q7_ERR_NFCE_EMISSION.
+// Efeito: na hora.
+// ESC/POS: os das funções de texto, de QR Code e do modo página.
+//   dados: o texto do XML (raiz nfeProc ou NFe), versão 4.00, com a urlChave; não o nome de um
+//   arquivo.
+//   indexcsc: o identificador do CSC do contribuinte, usado se a nota não tem qrCode.
+//   csc: o CSC do contribuinte, usado se a nota não tem qrCode.
+//   param: soma de valores de Q7NfceOption, no máximo 65535.
+// Devolve 0 ou um código.
+function ImprimeXMLNFCe(const dados: TQ7Texto; indexcsc: Integer; const csc: TQ7Texto; param: Integer): Integer;
+
+// Guarda o nome do modelo com que PortOpen e PrtPortOpen abrem.
+// Efeito: no próximo PortOpen ou PrtPortOpen; a própria função não envia nada.
+// ESC/POS: nenhum.
+//   handle: ignorado.
+//   model: nome do modelo, como em AbreConexaoImpressora.
+// Devolve 0.
+function PrinterCreator(handle: Pointer; const model: TQ7Texto): Integer;
+
+// Guarda o nome do modelo com que PortOpen e PrtPortOpen abrem, como PrinterCreator, sem resultado.
+// Efeito: no próximo PortOpen ou PrtPortOpen; a própria função não envia nada.
+// ESC/POS: nenhum.
+//   handle: ignorado.
+//   model: nome do modelo, como em AbreConexaoImpressora.
+procedure PrinterCreatorS(handle: Pointer; const model: TQ7Texto);
+
+// Não libera nada: a porta continua aberta. Protegida.
+// Códigos: Q7_ERR_NOT_OPEN.
+// Efeito: nenhum.
+// ESC/POS: nenhum.
+//   handle: ignorado.
+// Devolve 0 ou um código.
+function PrinterDestroy(handle: Pointer): Integer;
+
+// Abre a conexão com o modelo de PrinterCreator, como AbreConexaoImpressora.
+// O texto é feito de campos separados por "," ou "_", que por isso não podem aparecer em nomes nem
+// em caminhos. O primeiro campo contém, em maiúsculas ou minúsculas, uma das palavras
+// - "COM": ele mesmo é a porta serial e o segundo são os bits por segundo: "COM3,9600";
+// - "NET": o segundo é o nome ou endereço e o terceiro a porta TCP, 9100 se falta ou está vazio:
+// "NET,192.168.0.10,9100";
+// - "USB": não precisa de outros campos.
+// Qualquer outro texto ("COM3" ou "NET" sozinhos também) devolve Q7_ERR_KIND, e a velocidade que
+// falta, Q7_ERR_SPEED.
+// Códigos: Q7_ERR_KIND, Q7_ERR_MODEL, Q7_ERR_UNKNOWN_PRINTER, Q7_ERR_SPEED,
+// Q7_ERR_SERIAL_NOT_FOUND, Q7_ERR_SERIAL_DENIED, Q7_ERR_SERIAL_UNKNOWN, Q7_ERR_USB_ABSENT,
+// Q7_ERR_USB_OPEN, Q7_ERR_TCP_PORT, Q7_ERR_FAILED.
+// Efeito: na hora.
+// ESC/POS: GS I 67, por serial e TCP.
+//   handle: ignorado.
+//   text: a porta, como acima.
+// Devolve 0, um código, ou um número positivo de erro do sistema ou da rede (Q7NetError).
+function PortOpen(handle: Pointer; const text: TQ7Texto): Integer;
+
+// Fecha a conexão, como FechaConexaoImpressora. Protegida.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_FAILED.
+// Efeito: na hora.
+// ESC/POS: nenhum.
+//   handle: ignorado.
+// Devolve 0, um código, ou, na USB, um número positivo de erro do sistema.
+function PortClose(handle: Pointer): Integer;
+
+// Reinicia a impressora, como InicializaImpressora. Protegida.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_NOT_SENT.
+// Efeito: na hora.
+// ESC/POS: ESC @.
+//   handle: ignorado.
+// Devolve 0 ou um código.
+function PrinterInitialize(handle: Pointer): Integer;
+
+// Imprime um texto, como ImpressaoTexto. Protegida; o log traz os dois nomes.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_ALIGNMENT, Q7_ERR_STYLE, Q7_ERR_SIZE, Q7_ERR_NOT_SENT.
+// Efeito: na hora; a impressora imprime cada linha quando recebe o seu "\n".
+// ESC/POS: ESC @ ou ESC 3 n, ESC a n, ESC ! n, GS B 1, ESC E 1, GS ! n, ESC t 16.
+//   handle: ignorado.
+//   text: o texto, em UTF-8; os fins de linha ("\n") são de quem chama.
+//   alignment: alinhamento, um valor de Q7Alignment; 0 deixa como está.
+//   style: soma de valores de Q7Style, de 0 a 15.
+//   size: tamanho dos caracteres, de 0 a 119 (Q7Size); 0 deixa como está.
+// Devolve a quantidade de bytes do texto enviados, ou um código.
+function PrintText(handle: Pointer; const text: TQ7Texto; alignment: Integer; style: Integer; size: Integer): Integer;
+
+// Envia os bytes de um texto como estão: sem conversão para Latin-1, sem escolher a tabela de
+// caracteres.
+// Protegida, mas o log a registra antes.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_NOT_SENT.
+// Efeito: na hora.
+// ESC/POS: nenhum além do texto.
+//   handle: ignorado.
+//   text: o texto, que vai até o primeiro byte zero.
+// Devolve a quantidade de bytes enviados, ou um código; um texto vazio devolve Q7_ERR_NOT_SENT.
+function PrintTextS(handle: Pointer; const text: TQ7Texto): Integer;
+
+// Define o alinhamento ao centro ou à direita. Protegida.
+// 0, à esquerda, é aceito mas não envia nada: a impressora fica como está. Para voltar à esquerda
+// chame DefinePosicao com Q7_ALIGN_LEFT.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_ALIGNMENT, Q7_ERR_NOT_SENT.
+// Efeito: no que vier a seguir; o próximo PrintText o desfaz se reiniciar a impressora.
+// ESC/POS: ESC a n.
+//   handle: ignorado.
+//   alignment: Q7_ALIGN_CENTER ou Q7_ALIGN_RIGHT.
+// Devolve 1 ou um código; com 0 sempre Q7_ERR_NOT_SENT.
+function SetAlign(handle: Pointer; alignment: Integer): Integer;
+
+// Liga ou desliga o negrito. Protegida, mas o log a registra antes.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_STYLE.
+// Efeito: no que vier a seguir, até um texto reiniciar a impressora (veja ImpressaoTexto).
+// ESC/POS: ESC E n.
+//   handle: ignorado.
+//   on_: 1 liga, 0 desliga.
+// Devolve 0, também quando nada foi enviado, ou um código.
+function SetTextBold(handle: Pointer; on_: Integer): Integer;
+
+// Escolhe a fonte e desliga o sublinhado, que o mesmo comando define. Protegida, mas o log a
+// registra antes.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_STYLE.
+// Efeito: no que vier a seguir, até um texto reiniciar a impressora (veja ImpressaoTexto).
+// ESC/POS: ESC ! n.
+//   handle: ignorado.
+//   font: um valor de Q7Font.
+// Devolve 0, também quando nada foi enviado, ou um código.
+function SetTextFont(handle: Pointer; font: Integer): Integer;
+
+// Guarda o espaçamento entre linhas: é a mesma função que EspacamentoEntreLinhas, e o log traz o
+// nome dela. Não tem identificador.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_SIZE.
+// Efeito: no próximo ImpressaoTexto; a própria função não envia nada.
+// ESC/POS: ESC 3 n, com o próximo ImpressaoTexto.
+//   spacing: espaçamento em pontos, de 1 a 255.
+// Devolve 0 ou um código.
+function SetTextLineSpace(spacing: Integer): Integer;
+
+// Imprime um código de barras, como ImpressaoCodigoBarras. Protegida.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_BARCODE_TYPE, Q7_ERR_BARCODE_HEIGHT, Q7_ERR_BARCODE_WIDTH,
+// Q7_ERR_BARCODE_HRI, Q7_ERR_BARCODE_DATA, Q7_ERR_NOT_SENT, Q7_ERR_FAILED.
+// Efeito: na hora, com o alinhamento em vigor.
+// ESC/POS: GS h, GS w, GS H, GS k m n (função B).
+//   handle: ignorado.
+//   type_: um valor de Q7Barcode, ou de 65 a 73 para os mesmos.
+//   data: o conteúdo, como em ImpressaoCodigoBarras.
+//   width: largura do módulo em pontos, de 1 a 6.
+//   height: altura em pontos, de 1 a 255.
+//   hri: posição do texto do código, um valor de Q7Hri.
+// Devolve 0 ou um código.
+function PrintBarCode(handle: Pointer; type_: Integer; const data: TQ7Texto; width: Integer; height: Integer; hri: Integer): Integer;
+
+// Imprime um QR Code, como ImpressaoQRCode.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_QR_SIZE, Q7_ERR_QR_LEVEL, Q7_ERR_QR_EMPTY, Q7_ERR_NOT_SENT,
+// Q7_ERR_FAILED.
+// Efeito: na hora, com o alinhamento em vigor.
+// ESC/POS: GS ( k, funções 167, 169, 180 e 181; ORLA-K: GS o e GS k 11; SORBE: GS k Q.
+//   handle: ignorado.
+//   type_: ignorado.
+//   data: o conteúdo, como em ImpressaoQRCode.
+//   errorLevel: nível de correção, um valor de Q7QrLevel.
+//   size: tamanho do módulo em pontos, de 1 a 6.
+// Devolve 0 ou um código.
+function PrintSymbol(handle: Pointer; type_: Integer; const data: TQ7Texto; errorLevel: Integer; size: Integer): Integer;
+
+// Falha sempre e nunca imprime: para uma imagem gravada na impressora chame ImprimeImagemMemoria.
+// Programas desta interface podem chamá-la; ela é ImprimeImagemMemoria com a escala 0, que não
+// existe.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_IMAGE_KEY, Q7_ERR_IMAGE_SCALE.
+// Efeito: nenhum.
+// ESC/POS: nenhum.
+//   handle: ignorado.
+//   k1: primeiro caractere da chave, do qual conta o byte baixo.
+//   k2: segundo caractere da chave, do qual conta o byte baixo.
+// Devolve sempre um código.
+function PrintNVImage(handle: Pointer; k1: Integer; k2: Integer): Integer;
+
+// Não faz nada: as imagens são gravadas com a ferramenta do fabricante da impressora.
+// Efeito: nenhum.
+// ESC/POS: nenhum.
+//   a: ignorado.
+//   b: ignorado.
+//   c: ignorado.
+//   d: ignorado.
+// Devolve 0.
+function DefineNVImage(a: Integer; b: Integer; c: Integer; d: Integer): Integer;
+
+// Avança o papel, como AvancaPapel. Protegida.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_NOT_SENT, Q7_ERR_FAILED.
+// Efeito: na hora.
+// ESC/POS: LF.
+//   handle: ignorado.
+//   lines: linhas a avançar, a partir de 1; 0 ou menos devolve Q7_ERR_FAILED.
+// Devolve 0 ou um código.
+function FeedLine(handle: Pointer; lines: Integer): Integer;
+
+// Avança o papel e corta, como Corte. Protegida.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_NOT_SENT.
+// Efeito: na hora.
+// ESC/POS: LF, GS V 0.
+//   handle: ignorado.
+//   lines: linhas a avançar antes; 0 ou menos não avança.
+// Devolve 0 ou um código.
+function CutPaper(handle: Pointer; lines: Integer): Integer;
+
+// Abre a gaveta, como AbreGaveta. Protegida.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_DRAWER_PIN, Q7_ERR_DRAWER_TIME, Q7_ERR_FAILED.
+// Efeito: na hora.
+// ESC/POS: ESC p m t1 t2.
+//   handle: ignorado.
+//   pin: saída da impressora, 0 ou 1.
+//   onTime: tempo ligado, em unidades de 2 ms, de 0 a 255.
+//   offTime: tempo desligado, em unidades de 2 ms, de 0 a 255.
+// Devolve 0 ou um código.
+function OpenDrawer(handle: Pointer; pin: Integer; onTime: Integer; offTime: Integer): Integer;
+
+// Abre a gaveta; é OpenDrawer com outro nome. Protegida.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_DRAWER_PIN, Q7_ERR_DRAWER_TIME, Q7_ERR_FAILED.
+// Efeito: na hora.
+// ESC/POS: ESC p m t1 t2.
+//   handle: ignorado.
+//   pin: saída da impressora, 0 ou 1.
+//   onTime: tempo ligado, em unidades de 2 ms, de 0 a 255.
+//   offTime: tempo desligado, em unidades de 2 ms, de 0 a 255.
+// Devolve 0 ou um código.
+function OpenCashDrawer(handle: Pointer; pin: Integer; onTime: Integer; offTime: Integer): Integer;
+
+// Pergunta o estado da impressora, com StatusImpressora e Q7_STATUS_ALL. Protegida.
+// Qualquer outra resposta, ou nenhuma, devolve Q7_ERR_STATUS_UNAVAILABLE e deixa state como estava:
+// por USB e serial também sempre que o sinal da gaveta está em nível baixo.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_STATUS_UNAVAILABLE.
+// Efeito: na hora.
+// ESC/POS: GS a 0, DLE EOT n.
+//   handle: ignorado.
+//   state: recebe um valor de Q7PrinterState; pode ser nulo.
+// Devolve 0 ou um código.
+function GetPrinterState(handle: Pointer; var state: Integer): Integer;
+
+// Pergunta o sinal da gaveta, com StatusImpressora e Q7_STATUS_DRAWER. Protegida.
+// state fica como estava quando a impressora não disse nada e por TCP, em que a gaveta não pode ser
+// perguntada.
+// Códigos: Q7_ERR_NOT_OPEN.
+// Efeito: na hora.
+// ESC/POS: GS a 0, DLE EOT 1.
+//   handle: ignorado.
+//   state: recebe 1 ou 0; pode ser nulo.
+//   polarity: diferente de 0: 1 é o sinal em nível baixo; 0: 1 é o sinal em nível alto.
+// Devolve 0, também quando state fica como estava, ou um código.
+function GetDrawerState(handle: Pointer; var state: Integer; polarity: Integer): Integer;
+
+// Pergunta o sinal da gaveta; é GetDrawerState com outro nome. Protegida.
+// Códigos: Q7_ERR_NOT_OPEN.
+// Efeito: na hora.
+// ESC/POS: GS a 0, DLE EOT 1.
+//   handle: ignorado.
+//   state: recebe 1 ou 0; pode ser nulo.
+//   polarity: diferente de 0: 1 é o sinal em nível baixo; 0: 1 é o sinal em nível alto.
+// Devolve 0, também quando state fica como estava, ou um código.
+function GetCashDrawerState(handle: Pointer; var state: Integer; polarity: Integer): Integer;
+
+// Entra no modo página, como ModoPagina. Protegida.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_NOT_SENT.
+// Efeito: na hora.
+// ESC/POS: ESC L.
+//   handle: ignorado.
+// Devolve 0 ou um código.
+function SelectPageMode(handle: Pointer): Integer;
+
+// Volta ao modo padrão; é PrtSelectStandardMode com outro nome. Protegida.
+// Códigos: Q7_ERR_NOT_OPEN.
+// Efeito: na hora.
+// ESC/POS: ESC S.
+//   handle: ignorado.
+// Devolve 0, também quando nada foi enviado, ou um código.
+function SelectStandardMode(handle: Pointer): Integer;
+
+// Define a direção de impressão no modo página, como DirecaoImpressao. Protegida.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_DIRECTION, Q7_ERR_NOT_SENT.
+// Efeito: no que vier a seguir na página.
+// ESC/POS: ESC T n.
+//   handle: ignorado.
+//   direction: um valor de Q7Direction.
+// Devolve 0 ou um código.
+function SelectPrintDirectionInPageMode(handle: Pointer; direction: Integer): Integer;
+
+// Define a área de impressão no modo página, como DefineAreaImpressao. Protegida.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_NOT_SENT.
+// Efeito: no que vier a seguir na página.
+// ESC/POS: ESC W.
+//   handle: ignorado.
+//   x: canto esquerdo em pontos, de 0 a 65535.
+//   y: canto superior em pontos, de 0 a 65535.
+//   width: largura em pontos, de 0 a 65535.
+//   height: altura em pontos, de 0 a 65535.
+// Devolve 0 ou um código.
+function SetPrintAreaInPageMode(handle: Pointer; x: Integer; y: Integer; width: Integer; height: Integer): Integer;
+
+// Define a posição horizontal absoluta, como PosicaoImpressaoHorizontal. Protegida.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_POSITION, Q7_ERR_NOT_SENT.
+// Efeito: no que vier a seguir.
+// ESC/POS: ESC $.
+//   handle: ignorado.
+//   position: pontos, de 0 a 500.
+// Devolve 0 ou um código.
+function SetAbSolutePrintPosition(handle: Pointer; position: Integer): Integer;
+
+// Define a posição vertical absoluta no modo página, como PosicaoImpressaoVertical. Protegida.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_NOT_SENT.
+// Efeito: no que vier a seguir na página.
+// ESC/POS: GS $.
+//   handle: ignorado.
+//   position: pontos, de 0 a 65535.
+// Devolve 0 ou um código.
+function SetAbsoluteVerticalPrintPositionInPageMode(handle: Pointer; position: Integer): Integer;
+
+// Imprime a página e continua no modo página, como ImprimeModoPagina. Protegida.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_NOT_SENT.
+// Efeito: na hora.
+// ESC/POS: ESC FF.
+//   handle: ignorado.
+// Devolve 0 ou um código.
+function PrintDataInPageMode(handle: Pointer): Integer;
+
+// Apaga a página sem a imprimir, como LimpaBufferModoPagina. Protegida.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_NOT_SENT.
+// Efeito: na hora.
+// ESC/POS: CAN.
+//   handle: ignorado.
+// Devolve 0 ou um código.
+function CancelPrintDataInPageMode(handle: Pointer): Integer;
+
+// Imprime a página e volta ao modo padrão, como ImprimeMPeRetornaPadrao. Protegida.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_NOT_SENT.
+// Efeito: na hora.
+// ESC/POS: FF.
+//   handle: ignorado.
+// Devolve 0 ou um código.
+function SetPrintAndReturnStandardMode(handle: Pointer): Integer;
+
+// Guarda o nome do modelo com que PortOpen e PrtPortOpen abrem: é PrinterCreator, e o nome guardado
+// é o mesmo.
+// Efeito: no próximo PortOpen ou PrtPortOpen; a própria função não envia nada.
+// ESC/POS: nenhum.
+//   handle: ignorado.
+//   model: nome do modelo, como em AbreConexaoImpressora.
+// Devolve 0.
+function PrtPrinterCreator(handle: Pointer; const model: TQ7Texto): Integer;
+
+// Não libera nada: a porta continua aberta, como em PrinterDestroy. Protegida.
+// Códigos: Q7_ERR_NOT_OPEN.
+// Efeito: nenhum.
+// ESC/POS: nenhum.
+//   handle: ignorado.
+// Devolve 0 ou um código.
+function PrtPrinterDestroy(handle: Pointer): Integer;
+
+// Abre a conexão com o modelo de PrinterCreator; é PortOpen com outro nome.
+// Códigos: Q7_ERR_KIND, Q7_ERR_MODEL, Q7_ERR_UNKNOWN_PRINTER, Q7_ERR_SPEED,
+// Q7_ERR_SERIAL_NOT_FOUND, Q7_ERR_SERIAL_DENIED, Q7_ERR_SERIAL_UNKNOWN, Q7_ERR_USB_ABSENT,
+// Q7_ERR_USB_OPEN, Q7_ERR_TCP_PORT, Q7_ERR_FAILED.
+// Efeito: na hora.
+// ESC/POS: GS I 67, por serial e TCP.
+//   handle: ignorado.
+//   text: a porta, como em PortOpen: "COM3,9600", "NET,192.168.0.10,9100" ou "USB".
+// Devolve 0, um código, ou um número positivo de erro do sistema ou da rede (Q7NetError).
+function PrtPortOpen(handle: Pointer; const text: TQ7Texto): Integer;
+
+// Fecha a conexão, como FechaConexaoImpressora; não é protegida: o log a registra também quando
+// nada está aberto.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_FAILED.
+// Efeito: na hora.
+// ESC/POS: nenhum.
+//   handle: ignorado.
+// Devolve 0, um código, ou, na USB, um número positivo de erro do sistema.
+function PrtPortClose(handle: Pointer): Integer;
+
+// Reinicia a impressora, como InicializaImpressora. Protegida.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_NOT_SENT.
+// Efeito: na hora.
+// ESC/POS: ESC @.
+//   handle: ignorado.
+// Devolve 0 ou um código.
+function PrtPrinterInitialize(handle: Pointer): Integer;
+
+// Imprime um texto; é PrintText com outro nome. Protegida.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_ALIGNMENT, Q7_ERR_STYLE, Q7_ERR_SIZE, Q7_ERR_NOT_SENT.
+// Efeito: na hora; a impressora imprime cada linha quando recebe o seu "\n".
+// ESC/POS: ESC @ ou ESC 3 n, ESC a n, ESC ! n, GS B 1, ESC E 1, GS ! n, ESC t 16.
+//   handle: ignorado.
+//   text: o texto, em UTF-8; os fins de linha ("\n") são de quem chama.
+//   alignment: alinhamento, um valor de Q7Alignment; 0 deixa como está.
+//   style: soma de valores de Q7Style, de 0 a 15.
+//   size: tamanho dos caracteres, de 0 a 119 (Q7Size); 0 deixa como está.
+// Devolve a quantidade de bytes do texto enviados, ou um código.
+function PrtPrintText(handle: Pointer; const text: TQ7Texto; alignment: Integer; style: Integer; size: Integer): Integer;
+
+// Define o alinhamento ao centro ou à direita; é SetAlign com outro nome. Protegida.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_ALIGNMENT, Q7_ERR_NOT_SENT.
+// Efeito: no que vier a seguir; o próximo PrintText o desfaz se reiniciar a impressora.
+// ESC/POS: ESC a n.
+//   handle: ignorado.
+//   alignment: Q7_ALIGN_CENTER ou Q7_ALIGN_RIGHT; com Q7_ALIGN_LEFT nada é enviado.
+// Devolve 1 ou um código; com 0 sempre Q7_ERR_NOT_SENT.
+function PrtSetTextPosition(handle: Pointer; alignment: Integer): Integer;
+
+// Liga ou desliga o negrito; é SetTextBold com outro nome. Protegida.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_STYLE.
+// Efeito: no que vier a seguir, até um texto reiniciar a impressora (veja ImpressaoTexto).
+// ESC/POS: ESC E n.
+//   handle: ignorado.
+//   on_: 1 liga, 0 desliga.
+// Devolve 0, também quando nada foi enviado, ou um código.
+function PrtSetTextBold(handle: Pointer; on_: Integer): Integer;
+
+// Escolhe a fonte; é SetTextFont com outro nome. Protegida.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_STYLE.
+// Efeito: no que vier a seguir, até um texto reiniciar a impressora (veja ImpressaoTexto).
+// ESC/POS: ESC ! n.
+//   handle: ignorado.
+//   font: um valor de Q7Font.
+// Devolve 0, também quando nada foi enviado, ou um código.
+function PrtSetTextFont(handle: Pointer; font: Integer): Integer;
+
+// Imprime um código de barras; é PrintBarCode com outro nome. Protegida.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_BARCODE_TYPE, Q7_ERR_BARCODE_HEIGHT, Q7_ERR_BARCODE_WIDTH,
+// Q7_ERR_BARCODE_HRI, Q7_ERR_BARCODE_DATA, Q7_ERR_NOT_SENT, Q7_ERR_FAILED.
+// Efeito: na hora, com o alinhamento em vigor.
+// ESC/POS: GS h, GS w, GS H, GS k m n (função B).
+//   handle: ignorado.
+//   type_: um valor de Q7Barcode, ou de 65 a 73 para os mesmos.
+//   data: o conteúdo, como em ImpressaoCodigoBarras.
+//   width: largura do módulo em pontos, de 1 a 6.
+//   height: altura em pontos, de 1 a 255.
+//   hri: posição do texto do código, um valor de Q7Hri.
+// Devolve 0 ou um código.
+function PrtPrintBarCode(handle: Pointer; type_: Integer; const data: TQ7Texto; width: Integer; height: Integer; hri: Integer): Integer;
+
+// Imprime um QR Code; é PrintSymbol com outro nome.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_QR_SIZE, Q7_ERR_QR_LEVEL, Q7_ERR_QR_EMPTY, Q7_ERR_NOT_SENT,
+// Q7_ERR_FAILED.
+// Efeito: na hora, com o alinhamento em vigor.
+// ESC/POS: GS ( k, funções 167, 169, 180 e 181; ORLA-K: GS o e GS k 11; SORBE: GS k Q.
+//   handle: ignorado.
+//   type_: ignorado.
+//   data: o conteúdo, como em ImpressaoQRCode.
+//   errorLevel: nível de correção, um valor de Q7QrLevel.
+//   size: tamanho do módulo em pontos, de 1 a 6.
+// Devolve 0 ou um código.
+function PrtPrintSymbol(handle: Pointer; type_: Integer; const data: TQ7Texto; errorLevel: Integer; size: Integer): Integer;
+
+// Avança o papel; é FeedLine com outro nome. Protegida.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_NOT_SENT, Q7_ERR_FAILED.
+// Efeito: na hora.
+// ESC/POS: LF.
+//   handle: ignorado.
+//   lines: linhas a avançar, a partir de 1; 0 ou menos devolve Q7_ERR_FAILED.
+// Devolve 0 ou um código.
+function PrtFeedLine(handle: Pointer; lines: Integer): Integer;
+
+// Avança o papel e corta, como Corte. Protegida.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_NOT_SENT.
+// Efeito: na hora.
+// ESC/POS: LF, GS V 0.
+//   handle: ignorado.
+//   lines: linhas a avançar antes; 0 ou menos não avança.
+// Devolve 0 ou um código.
+function PrtCutPaper(handle: Pointer; lines: Integer): Integer;
+
+// Abre a gaveta; é OpenDrawer com outro nome. Protegida.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_DRAWER_PIN, Q7_ERR_DRAWER_TIME, Q7_ERR_FAILED.
+// Efeito: na hora.
+// ESC/POS: ESC p m t1 t2.
+//   handle: ignorado.
+//   pin: saída da impressora, 0 ou 1.
+//   onTime: tempo ligado, em unidades de 2 ms, de 0 a 255.
+//   offTime: tempo desligado, em unidades de 2 ms, de 0 a 255.
+// Devolve 0 ou um código.
+function PrtOpenDrawer(handle: Pointer; pin: Integer; onTime: Integer; offTime: Integer): Integer;
+
+// Pergunta o estado da impressora; é GetPrinterState com outro nome. Protegida.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_STATUS_UNAVAILABLE.
+// Efeito: na hora.
+// ESC/POS: GS a 0, DLE EOT n.
+//   handle: ignorado.
+//   state: recebe um valor de Q7PrinterState; pode ser nulo.
+// Devolve 0 ou um código.
+function PrtCheckPrinterState(handle: Pointer; var state: Integer): Integer;
+
+// Pergunta o sinal da gaveta; é GetDrawerState com outro nome. Protegida.
+// Códigos: Q7_ERR_NOT_OPEN.
+// Efeito: na hora.
+// ESC/POS: GS a 0, DLE EOT 1.
+//   handle: ignorado.
+//   state: recebe 1 ou 0; pode ser nulo.
+//   polarity: diferente de 0: 1 é o sinal em nível baixo; 0: 1 é o sinal em nível alto.
+// Devolve 0, também quando state fica como estava, ou um código.
+function PrtGetDrawerState(handle: Pointer; var state: Integer; polarity: Integer): Integer;
+
+// Entra no modo página; é SelectPageMode com outro nome. Protegida.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_NOT_SENT.
+// Efeito: na hora.
+// ESC/POS: ESC L.
+//   handle: ignorado.
+// Devolve 0 ou um código.
+function PrtSelectPageMode(handle: Pointer): Integer;
+
+// Volta ao modo padrão; uma página não impressa se perde. Protegida; o log não traz o nome dela.
+// Códigos: Q7_ERR_NOT_OPEN.
+// Efeito: na hora.
+// ESC/POS: ESC S.
+//   handle: ignorado.
+// Devolve 0, também quando nada foi enviado, ou um código.
+function PrtSelectStandardMode(handle: Pointer): Integer;
+
+// Define a direção de impressão no modo página; é SelectPrintDirectionInPageMode com outro nome.
+// Protegida.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_DIRECTION, Q7_ERR_NOT_SENT.
+// Efeito: no que vier a seguir na página.
+// ESC/POS: ESC T n.
+//   handle: ignorado.
+//   direction: um valor de Q7Direction.
+// Devolve 0 ou um código.
+function PrtSelectPrintDirectionInPageMode(handle: Pointer; direction: Integer): Integer;
+
+// Define a área de impressão no modo página; é SetPrintAreaInPageMode com outro nome. Protegida.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_NOT_SENT.
+// Efeito: no que vier a seguir na página.
+// ESC/POS: ESC W.
+//   handle: ignorado.
+//   x: canto esquerdo em pontos, de 0 a 65535.
+//   y: canto superior em pontos, de 0 a 65535.
+//   width: largura em pontos, de 0 a 65535.
+//   height: altura em pontos, de 0 a 65535.
+// Devolve 0 ou um código.
+function PrtSetPrintAreaInPageMode(handle: Pointer; x: Integer; y: Integer; width: Integer; height: Integer): Integer;
+
+// Define a posição vertical absoluta; é SetAbsoluteVerticalPrintPositionInPageMode com outro nome.
+// Protegida.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_NOT_SENT.
+// Efeito: no que vier a seguir na página.
+// ESC/POS: GS $.
+//   handle: ignorado.
+//   position: pontos, de 0 a 65535.
+// Devolve 0 ou um código.
+function PrtSetAbsoluteVerticalPrintPositionInPageMode(handle: Pointer; position: Integer): Integer;
+
+// Imprime a página e continua no modo página; é PrintDataInPageMode com outro nome. Protegida.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_NOT_SENT.
+// Efeito: na hora.
+// ESC/POS: ESC FF.
+//   handle: ignorado.
+// Devolve 0 ou um código.
+function PrtPrintDataInPageMode(handle: Pointer): Integer;
+
+// Envia um ESC sozinho, que não apaga a página: para isso chame CancelPrintDataInPageMode.
+// Protegida.
+// A impressora toma o byte seguinte pelo resto de um comando.
+// Códigos: Q7_ERR_NOT_OPEN.
+// Efeito: na hora.
+// ESC/POS: ESC.
+//   handle: ignorado.
+// Devolve 0, também quando nada foi enviado, ou um código.
+function PrtCancelPrintDataInPageMode(handle: Pointer): Integer;
+
+// Imprime a página e volta ao modo padrão; é SetPrintAndReturnStandardMode com outro nome.
+// Protegida.
+// Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_NOT_SENT.
+// Efeito: na hora.
+// ESC/POS: FF.
+//   handle: ignorado.
+// Devolve 0 ou um código.
+function PrtSetPrintAndReturnStandardMode(handle: Pointer): Integer;
+
+implementation
+
+uses
+  SysUtils;
+
+const
+  Biblioteca = {$IFDEF MSWINDOWS}'Q7_Impressora.dll'{$ELSE}'libQ7_Impressora.so'{$ENDIF};
+
+function extAbreConexaoImpressora(tipo: Integer; modelo: PAnsiChar; conexao: PAnsiChar; parametro: Integer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'AbreConexaoImpressora';
+function extFechaConexaoImpressora: Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'FechaConexaoImpressora';
+function extGetVersaoDLL: PAnsiChar;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'GetVersaoDLL';
+function extImpressaoTexto(dados: PAnsiChar; posicao: Integer; stilo: Integer; tamanho: Integer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'ImpressaoTexto';
+function extEspacamentoEntreLinhas(espacamento: Integer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'EspacamentoEntreLinhas';
+function extDefinePosicao(posicao: Integer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'DefinePosicao';
+function extInicializaImpressora: Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'InicializaImpressora';
+function extImpressaoQRCode(dados: PAnsiChar; tamanho: Integer; nivelCorrecao: Integer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'ImpressaoQRCode';
+function extImpressaoCodigoBarras(tipo: Integer; dados: PAnsiChar; altura: Integer; largura: Integer; HRI: Integer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'ImpressaoCodigoBarras';
+function extImprimeImagemMemoria(chave: PAnsiChar; escala: Integer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'ImprimeImagemMemoria';
+function extCorte(avanco: Integer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'Corte';
+function extAvancaPapel(linhas: Integer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'AvancaPapel';
+function extAbreGaveta(pino: Integer; ti: Integer; tf: Integer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'AbreGaveta';
+function extAbreGavetaTavlo: Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'AbreGavetaTavlo';
+function extSinalSonoro(qtd: Integer; tempoInicio: Integer; tempoFim: Integer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'SinalSonoro';
+function extStatusImpressora(param: Integer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'StatusImpressora';
+function extDirectIO(comando: PAnsiChar; tamanho: Integer; resposta: PAnsiChar; var tamanhoResposta: Cardinal): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'DirectIO';
+function extIdImpressora(tipo: Integer): PAnsiChar;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'IdImpressora';
+function extModoPagina: Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'ModoPagina';
+function extDirecaoImpressao(direcao: Integer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'DirecaoImpressao';
+function extDefineAreaImpressao(x: Integer; y: Integer; largura: Integer; altura: Integer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'DefineAreaImpressao';
+function extPosicaoImpressaoHorizontal(posicao: Integer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'PosicaoImpressaoHorizontal';
+function extPosicaoImpressaoVertical(posicao: Integer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'PosicaoImpressaoVertical';
+function extImprimeModoPagina: Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'ImprimeModoPagina';
+function extLimpaBufferModoPagina: Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'LimpaBufferModoPagina';
+function extImprimeMPeRetornaPadrao: Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'ImprimeMPeRetornaPadrao';
+function extModoPadrao: Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'ModoPadrao';
+function extImprimeXMLSAT(dados: PAnsiChar; param: Integer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'ImprimeXMLSAT';
+function extImprimeXMLCancelamentoSAT(dados: PAnsiChar; assinaturaQRCODE: PAnsiChar; param: Integer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'ImprimeXMLCancelamentoSAT';
+function extImprimeXMLNFCe(dados: PAnsiChar; indexcsc: Integer; csc: PAnsiChar; param: Integer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'ImprimeXMLNFCe';
+function extPrinterCreator(handle: Pointer; model: PAnsiChar): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'PrinterCreator';
+procedure extPrinterCreatorS(handle: Pointer; model: PAnsiChar);
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'PrinterCreatorS';
+function extPrinterDestroy(handle: Pointer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'PrinterDestroy';
+function extPortOpen(handle: Pointer; text: PAnsiChar): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'PortOpen';
+function extPortClose(handle: Pointer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'PortClose';
+function extPrinterInitialize(handle: Pointer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'PrinterInitialize';
+function extPrintText(handle: Pointer; text: PAnsiChar; alignment: Integer; style: Integer; size: Integer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'PrintText';
+function extPrintTextS(handle: Pointer; text: PAnsiChar): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'PrintTextS';
+function extSetAlign(handle: Pointer; alignment: Integer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'SetAlign';
+function extSetTextBold(handle: Pointer; on_: Integer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'SetTextBold';
+function extSetTextFont(handle: Pointer; font: Integer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'SetTextFont';
+function extSetTextLineSpace(spacing: Integer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'SetTextLineSpace';
+function extPrintBarCode(handle: Pointer; type_: Integer; data: PAnsiChar; width: Integer; height: Integer; hri: Integer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'PrintBarCode';
+function extPrintSymbol(handle: Pointer; type_: Integer; data: PAnsiChar; errorLevel: Integer; size: Integer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'PrintSymbol';
+function extPrintNVImage(handle: Pointer; k1: Integer; k2: Integer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'PrintNVImage';
+function extDefineNVImage(a: Integer; b: Integer; c: Integer; d: Integer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'DefineNVImage';
+function extFeedLine(handle: Pointer; lines: Integer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'FeedLine';
+function extCutPaper(handle: Pointer; lines: Integer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'CutPaper';
+function extOpenDrawer(handle: Pointer; pin: Integer; onTime: Integer; offTime: Integer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'OpenDrawer';
+function extOpenCashDrawer(handle: Pointer; pin: Integer; onTime: Integer; offTime: Integer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'OpenCashDrawer';
+function extGetPrinterState(handle: Pointer; var state: Integer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'GetPrinterState';
+function extGetDrawerState(handle: Pointer; var state: Integer; polarity: Integer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'GetDrawerState';
+function extGetCashDrawerState(handle: Pointer; var state: Integer; polarity: Integer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'GetCashDrawerState';
+function extSelectPageMode(handle: Pointer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'SelectPageMode';
+function extSelectStandardMode(handle: Pointer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'SelectStandardMode';
+function extSelectPrintDirectionInPageMode(handle: Pointer; direction: Integer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'SelectPrintDirectionInPageMode';
+function extSetPrintAreaInPageMode(handle: Pointer; x: Integer; y: Integer; width: Integer; height: Integer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'SetPrintAreaInPageMode';
+function extSetAbSolutePrintPosition(handle: Pointer; position: Integer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'SetAbSolutePrintPosition';
+function extSetAbsoluteVerticalPrintPositionInPageMode(handle: Pointer; position: Integer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'SetAbsoluteVerticalPrintPositionInPageMode';
+function extPrintDataInPageMode(handle: Pointer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'PrintDataInPageMode';
+function extCancelPrintDataInPageMode(handle: Pointer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'CancelPrintDataInPageMode';
+function extSetPrintAndReturnStandardMode(handle: Pointer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'SetPrintAndReturnStandardMode';
+function extPrtPrinterCreator(handle: Pointer; model: PAnsiChar): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'PrtPrinterCreator';
+function extPrtPrinterDestroy(handle: Pointer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'PrtPrinterDestroy';
+function extPrtPortOpen(handle: Pointer; text: PAnsiChar): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'PrtPortOpen';
+function extPrtPortClose(handle: Pointer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'PrtPortClose';
+function extPrtPrinterInitialize(handle: Pointer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'PrtPrinterInitialize';
+function extPrtPrintText(handle: Pointer; text: PAnsiChar; alignment: Integer; style: Integer; size: Integer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'PrtPrintText';
+function extPrtSetTextPosition(handle: Pointer; alignment: Integer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'PrtSetTextPosition';
+function extPrtSetTextBold(handle: Pointer; on_: Integer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'PrtSetTextBold';
+function extPrtSetTextFont(handle: Pointer; font: Integer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'PrtSetTextFont';
+function extPrtPrintBarCode(handle: Pointer; type_: Integer; data: PAnsiChar; width: Integer; height: Integer; hri: Integer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'PrtPrintBarCode';
+function extPrtPrintSymbol(handle: Pointer; type_: Integer; data: PAnsiChar; errorLevel: Integer; size: Integer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'PrtPrintSymbol';
+function extPrtFeedLine(handle: Pointer; lines: Integer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'PrtFeedLine';
+function extPrtCutPaper(handle: Pointer; lines: Integer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'PrtCutPaper';
+function extPrtOpenDrawer(handle: Pointer; pin: Integer; onTime: Integer; offTime: Integer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'PrtOpenDrawer';
+function extPrtCheckPrinterState(handle: Pointer; var state: Integer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'PrtCheckPrinterState';
+function extPrtGetDrawerState(handle: Pointer; var state: Integer; polarity: Integer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'PrtGetDrawerState';
+function extPrtSelectPageMode(handle: Pointer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'PrtSelectPageMode';
+function extPrtSelectStandardMode(handle: Pointer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'PrtSelectStandardMode';
+function extPrtSelectPrintDirectionInPageMode(handle: Pointer; direction: Integer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'PrtSelectPrintDirectionInPageMode';
+function extPrtSetPrintAreaInPageMode(handle: Pointer; x: Integer; y: Integer; width: Integer; height: Integer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'PrtSetPrintAreaInPageMode';
+function extPrtSetAbsoluteVerticalPrintPositionInPageMode(handle: Pointer; position: Integer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'PrtSetAbsoluteVerticalPrintPositionInPageMode';
+function extPrtPrintDataInPageMode(handle: Pointer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'PrtPrintDataInPageMode';
+function extPrtCancelPrintDataInPageMode(handle: Pointer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'PrtCancelPrintDataInPageMode';
+function extPrtSetPrintAndReturnStandardMode(handle: Pointer): Integer;
+  {$IFDEF MSWINDOWS}stdcall{$ELSE}cdecl{$ENDIF}; external Biblioteca name 'PrtSetPrintAndReturnStandardMode';
+
+// O texto fica com quem chamou, que não o libera.
+function Texto(latin1: PAnsiChar): TQ7Texto;
+var
+  i: Integer;
+begin
+  Result := '';
+  if latin1 = nil then
+    Exit;
+  SetLength(Result, StrLen(latin1));
+  for i := 1 to Length(Result) do
+    Result[i] := WideChar(Ord(latin1[i - 1]));
+end;
+
+function Mensagem(codigo: Integer): TQ7Texto;
+begin
+  case codigo of
+    Q7_OK:
+      Result := 'Sucesso. O que fazer: nada; depois de abrir por TCP chame StatusImpressora, que ' +
+        'devolve -4 se a conexão foi recusada.';
+    Q7_ERR_KIND:
+      Result := 'Tipo de conexão desconhecido. O que fazer: passe uma das constantes de ' +
+        'Q7Connection, ou um texto como "COM3,9600", "NET,192.168.0.10,9100" ou "USB".';
+    Q7_ERR_MODEL:
+      Result := 'Modelo desconhecido, ou a impressora é de outro modelo conhecido. O que fazer: ' +
+        'confira o nome na lista de AbreConexaoImpressora e o que a impressora diz no ' +
+        'autoteste.';
+    Q7_ERR_NOT_OPEN:
+      Result := 'Nenhuma conexão aberta. O que fazer: confira se a impressora está ligada e na ' +
+        'rede e abra de novo.';
+    Q7_ERR_UNKNOWN_PRINTER:
+      Result := 'A impressora não informou um modelo conhecido. O que fazer: confira cabo, ' +
+        'energia, velocidade e endereço e abra de novo.';
+    Q7_ERR_ALREADY_OPEN:
+      Result := 'Conexão já aberta. O que fazer: nada; feche a conexão antes de abrir outra.';
+    Q7_ERR_SPEED:
+      Result := 'Velocidade serial não permitida. O que fazer: passe 300, 1200, 2400, 4800, 9600, ' +
+        '19200, 38400, 57600 ou 115200, a mesma que está configurada na impressora.';
+    Q7_ERR_SERIAL_NOT_FOUND:
+      Result := 'Porta serial não encontrada. O que fazer: veja o nome da porta no Gerenciador de ' +
+        'Dispositivos (no Linux, em /dev).';
+    Q7_ERR_SERIAL_DENIED:
+      Result := 'Porta serial em uso ou sem permissão. O que fazer: feche o outro programa; no ' +
+        'Linux, ponha o usuário no grupo dialout e entre de novo.';
+    Q7_ERR_SERIAL_UNKNOWN:
+      Result := 'Porta serial falhou por motivo desconhecido. O que fazer: retire e recoloque o ' +
+        'adaptador; atualize o driver.';
+    Q7_ERR_USB_ABSENT:
+      Result := 'Impressora USB não encontrada. O que fazer: copie os identificadores do ' +
+        'Gerenciador de Dispositivos (VID e PID) para "q7_usb.ini" e reinicie o programa.';
+    Q7_ERR_USB_OPEN:
+      Result := 'A impressora USB não pôde ser aberta. O que fazer: feche o outro programa; o ' +
+        'número de erro do sistema está no log, na linha "ERRO DE ABERTURA DE PORTA:".';
+    Q7_ERR_TCP_PORT:
+      Result := 'Porta TCP fora da faixa. O que fazer: passe a porta da impressora, em geral ' +
+        '9100.';
+    Q7_ERR_ALIGNMENT:
+      Result := 'Alinhamento fora de 0 a 2. O que fazer: passe Q7_ALIGN_LEFT, Q7_ALIGN_CENTER ou ' +
+        'Q7_ALIGN_RIGHT.';
+    Q7_ERR_STYLE:
+      Result := 'Estilo, negrito ou fonte fora da faixa. O que fazer: some constantes de Q7Style, ' +
+        'cada uma uma só vez.';
+    Q7_ERR_SIZE:
+      Result := 'Tamanho fora de 0 a 119, ou espaçamento fora de 1 a 255. O que fazer: passe um ' +
+        'valor de Q7Size; o espaçamento é em pontos.';
+    Q7_ERR_NOT_SENT:
+      Result := 'Nada foi enviado. O que fazer: confira o texto e o papel da impressora; imprima ' +
+        'textos longos em partes.';
+    Q7_ERR_QR_SIZE:
+      Result := 'Tamanho do módulo do QR Code fora de 1 a 6. O que fazer: passe de 1 a 6 pontos; ' +
+        '4 serve para quase tudo.';
+    Q7_ERR_QR_LEVEL:
+      Result := 'Nível de correção do QR Code fora de 1 a 4. O que fazer: passe um valor de ' +
+        'Q7QrLevel.';
+    Q7_ERR_QR_EMPTY:
+      Result := 'Conteúdo do QR Code vazio. O que fazer: confira de onde vem o conteúdo.';
+    Q7_ERR_BARCODE_HEIGHT:
+      Result := 'Altura do código de barras fora de 1 a 255. O que fazer: passe a altura em ' +
+        'pontos; 80 pontos são 10 mm a 8 pontos por milímetro.';
+    Q7_ERR_BARCODE_WIDTH:
+      Result := 'Largura do módulo do código de barras fora de 1 a 6. O que fazer: passe de 1 a 6 ' +
+        'pontos; 2 serve para quase tudo.';
+    Q7_ERR_BARCODE_HRI:
+      Result := 'Posição do texto do código de barras fora de 1 a 4. O que fazer: passe um valor ' +
+        'de Q7Hri.';
+    Q7_ERR_BARCODE_TYPE:
+      Result := 'Tipo de código de barras fora de 0 a 8. O que fazer: passe uma das constantes; ' +
+        'só PrintBarCode e PrtPrintBarCode aceitam também 65 a 73.';
+    Q7_ERR_BARCODE_DATA:
+      Result := 'Dados inválidos para o tipo de código de barras. O que fazer: veja em ' +
+        'ImpressaoCodigoBarras o que cada tipo aceita.';
+    Q7_ERR_XSD:
+      Result := 'Documento ou esquema inválido. O que fazer: nada.';
+    Q7_ERR_XSD_MISSING:
+      Result := 'Arquivo de esquema ausente. O que fazer: nada.';
+    Q7_ERR_NO_REPLY:
+      Result := 'A impressora não respondeu. O que fazer: confira a impressora e o cabo e ' +
+        'pergunte de novo.';
+    Q7_ERR_SIGNATURE:
+      Result := 'A assinatura não tem 344 caracteres. O que fazer: passe o elemento ' +
+        'assinaturaQRCODE da venda cancelada, inteiro.';
+    Q7_ERR_NFCE_VERSION:
+      Result := 'Versão do leiaute da NFC-e diferente de 4.00. O que fazer: passe uma NFC-e da ' +
+        'versão 4.00.';
+    Q7_ERR_NFCE_NO_VERSION:
+      Result := 'Não é uma NFC-e, ou é uma sem o atributo versao. O que fazer: passe o texto do ' +
+        'XML autorizado, com a raiz nfeProc ou NFe.';
+    Q7_ERR_NFCE_EMISSION:
+      Result := 'Tipo de emissão (tpEmis) ausente ou 0. O que fazer: passe o XML inteiro, com o ' +
+        'grupo infNFeSupl.';
+    Q7_ERR_NFCE_OPTIONS:
+      Result := 'Opções da NFC-e acima de 65535. O que fazer: some constantes de Q7NfceOption.';
+    Q7_ERR_BUZZER_COUNT:
+      Result := 'Quantidade de sinais sonoros acima de 63. O que fazer: passe de 0 a 63.';
+    Q7_ERR_BUZZER_TIME:
+      Result := 'Os dois tempos do sinal sonoro acima de 25. O que fazer: passe os tempos em ' +
+        'unidades de 100 ms.';
+    Q7_ERR_DRAWER_PIN:
+      Result := 'Pino da gaveta acima de 1. O que fazer: passe 0 ou 1.';
+    Q7_ERR_DRAWER_TIME:
+      Result := 'Um tempo da gaveta acima de 255. O que fazer: passe o tempo em unidades de 2 ms.';
+    Q7_ERR_STATUS_UNAVAILABLE:
+      Result := 'Estado não disponível nesta conexão. O que fazer: pergunte por outra conexão ou ' +
+        'por outro estado.';
+    Q7_ERR_STATUS_KIND:
+      Result := 'Pergunta de estado fora de 1 a 5. O que fazer: passe uma das constantes.';
+    Q7_ERR_IMAGE_KEY:
+      Result := 'A chave da imagem não são dois caracteres visíveis. O que fazer: passe a chave ' +
+        'com que a imagem foi gravada, por exemplo "00".';
+    Q7_ERR_IMAGE_SCALE:
+      Result := 'Escala da imagem fora de 1 a 2. O que fazer: passe um valor de Q7ImageScale a ' +
+        'ImprimeImagemMemoria.';
+    Q7_ERR_DIRECTION:
+      Result := 'Direção de impressão fora de 0 a 3. O que fazer: passe um valor de Q7Direction.';
+    Q7_ERR_POSITION:
+      Result := 'Posição horizontal acima de 500. O que fazer: passe de 0 a 500 pontos.';
+    Q7_ERR_ID_KIND:
+      Result := 'Pergunta de identificação fora de 0 a 6. O que fazer: passe uma das constantes; ' +
+        'IdImpressora devolve este código como o texto "-402".';
+    Q7_ERR_FAILED:
+      Result := 'Sem resultado: nada foi enviado, ou outra falha. O que fazer: confira os ' +
+        'argumentos; se persistir, ligue o log.';
+  else
+    if codigo > 0 then
+      Result := 'Erro do sistema ou da rede, de número ' + TQ7Texto(IntToStr(codigo)) + '.'
+    else
+      Result := 'Código desconhecido: ' + TQ7Texto(IntToStr(codigo)) + '.';
+  end;
+end;
+
+function AbreConexaoImpressora(tipo: Integer; const modelo: TQ7Texto; const conexao: TQ7Texto; parametro: Integer): Integer;
+begin
+  Result := extAbreConexaoImpressora(tipo, PAnsiChar(UTF8Encode(modelo)), PAnsiChar(UTF8Encode(conexao)), parametro);
+end;
+
+function FechaConexaoImpressora: Integer;
+begin
+  Result := extFechaConexaoImpressora;
+end;
+
+function GetVersaoDLL: TQ7Texto;
+begin
+  Result := Texto(extGetVersaoDLL);
+end;
+
+function ImpressaoTexto(const dados: TQ7Texto; posicao: Integer; stilo: Integer; tamanho: Integer): Integer;
+begin
+  Result := extImpressaoTexto(PAnsiChar(UTF8Encode(dados)), posicao, stilo, tamanho);
+end;
+
+function EspacamentoEntreLinhas(espacamento: Integer): Integer;
+begin
+  Result := extEspacamentoEntreLinhas(espacamento);
+end;
+
+function DefinePosicao(posicao: Integer): Integer;
+begin
+  Result := extDefinePosicao(posicao);
+end;
+
+function InicializaImpressora: Integer;
+begin
+  Result := extInicializaImpressora;
+end;
+
+function ImpressaoQRCode(const dados: TQ7Texto; tamanho: Integer; nivelCorrecao: Integer): Integer;
+begin
+  Result := extImpressaoQRCode(PAnsiChar(UTF8Encode(dados)), tamanho, nivelCorrecao);
+end;
+
+function ImpressaoCodigoBarras(tipo: Integer; const dados: TQ7Texto; altura: Integer; largura: Integer; HRI: Integer): Integer;
+begin
+  Result := extImpressaoCodigoBarras(tipo, PAnsiChar(UTF8Encode(dados)), altura, largura, HRI);
+end;
+
+function ImprimeImagemMemoria(const chave: TQ7Texto; escala: Integer): Integer;
+begin
+  Result := extImprimeImagemMemoria(PAnsiChar(UTF8Encode(chave)), escala);
+end;
+
+function Corte(avanco: Integer): Integer;
+begin
+  Result := extCorte(avanco);
+end;
+
+function AvancaPapel(linhas: Integer): Integer;
+begin
+  Result := extAvancaPapel(linhas);
+end;
+
+function AbreGaveta(pino: Integer; ti: Integer; tf: Integer): Integer;
+begin
+  Result := extAbreGaveta(pino, ti, tf);
+end;
+
+function AbreGavetaTavlo: Integer;
+begin
+  Result := extAbreGavetaTavlo;
+end;
+
+function SinalSonoro(qtd: Integer; tempoInicio: Integer; tempoFim: Integer): Integer;
+begin
+  Result := extSinalSonoro(qtd, tempoInicio, tempoFim);
+end;
+
+function StatusImpressora(param: Integer): Integer;
+begin
+  Result := extStatusImpressora(param);
+end;
+
+function DirectIO(comando: PAnsiChar; tamanho: Integer; resposta: PAnsiChar; var tamanhoResposta: Cardinal): Integer;
+begin
+  Result := extDirectIO(comando, tamanho, resposta, tamanhoResposta);
+end;
+
+function IdImpressora(tipo: Integer): TQ7Texto;
+begin
+  Result := Texto(extIdImpressora(tipo));
+end;
+
+function ModoPagina: Integer;
+begin
+  Result := extModoPagina;
+end;
+
+function DirecaoImpressao(direcao: Integer): Integer;
+begin
+  Result := extDirecaoImpressao(direcao);
+end;
+
+function DefineAreaImpressao(x: Integer; y: Integer; largura: Integer; altura: Integer): Integer;
+begin
+  Result := extDefineAreaImpressao(x, y, largura, altura);
+end;
+
+function PosicaoImpressaoHorizontal(posicao: Integer): Integer;
+begin
+  Result := extPosicaoImpressaoHorizontal(posicao);
+end;
+
+function PosicaoImpressaoVertical(posicao: Integer): Integer;
+begin
+  Result := extPosicaoImpressaoVertical(posicao);
+end;
+
+function ImprimeModoPagina: Integer;
+begin
+  Result := extImprimeModoPagina;
+end;
+
+function LimpaBufferModoPagina: Integer;
+begin
+  Result := extLimpaBufferModoPagina;
+end;
+
+function ImprimeMPeRetornaPadrao: Integer;
+begin
+  Result := extImprimeMPeRetornaPadrao;
+end;
+
+function ModoPadrao: Integer;
+begin
+  Result := extModoPadrao;
+end;
+
+function ImprimeXMLSAT(const dados: TQ7Texto; param: Integer): Integer;
+begin
+  Result := extImprimeXMLSAT(PAnsiChar(UTF8Encode(dados)), param);
+end;
+
+function ImprimeXMLCancelamentoSAT(const dados: TQ7Texto; const assinaturaQRCODE: TQ7Texto; param: Integer): Integer;
+begin
+  Result := extImprimeXMLCancelamentoSAT(PAnsiChar(UTF8Encode(dados)), PAnsiChar(UTF8Encode(assinaturaQRCODE)), param);
+end;
+
+function ImprimeXMLNFCe(const dados: TQ7Texto; indexcsc: Integer; const csc: TQ7Texto; param: Integer): Integer;
+begin
+  Result := extImprimeXMLNFCe(PAnsiChar(UTF8Encode(dados)), indexcsc, PAnsiChar(UTF8Encode(csc)), param);
+end;
+
+function PrinterCreator(handle: Pointer; const model: TQ7Texto): Integer;
+begin
+  Result := extPrinterCreator(handle, PAnsiChar(UTF8Encode(model)));
+end;
+
+procedure PrinterCreatorS(handle: Pointer; const model: TQ7Texto);
+begin
+  extPrinterCreatorS(handle, PAnsiChar(UTF8Encode(model)));
+end;
+
+function PrinterDestroy(handle: Pointer): Integer;
+begin
+  Result := extPrinterDestroy(handle);
+end;
+
+function PortOpen(handle: Pointer; const text: TQ7Texto): Integer;
+begin
+  Result := extPortOpen(handle, PAnsiChar(UTF8Encode(text)));
+end;
+
+function PortClose(handle: Pointer): Integer;
+begin
+  Result := extPortClose(handle);
+end;
+
+function PrinterInitialize(handle: Pointer): Integer;
+begin
+  Result := extPrinterInitialize(handle);
+end;
+
+function PrintText(handle: Pointer; const text: TQ7Texto; alignment: Integer; style: Integer; size: Integer): Integer;
+begin
+  Result := extPrintText(handle, PAnsiChar(UTF8Encode(text)), alignment, style, size);
+end;
+
+function PrintTextS(handle: Pointer; const text: TQ7Texto): Integer;
+begin
+  Result := extPrintTextS(handle, PAnsiChar(UTF8Encode(text)));
+end;
+
+function SetAlign(handle: Pointer; alignment: Integer): Integer;
+begin
+  Result := extSetAlign(handle, alignment);
+end;
+
+function SetTextBold(handle: Pointer; on_: Integer): Integer;
+begin
+  Result := extSetTextBold(handle, on_);
+end;
+
+function SetTextFont(handle: Pointer; font: Integer): Integer;
+begin
+  Result := extSetTextFont(handle, font);
+end;
+
+function SetTextLineSpace(spacing: Integer): Integer;
+begin
+  Result := extSetTextLineSpace(spacing);
+end;
+
+function PrintBarCode(handle: Pointer; type_: Integer; const data: TQ7Texto; width: Integer; height: Integer; hri: Integer): Integer;
+begin
+  Result := extPrintBarCode(handle, type_, PAnsiChar(UTF8Encode(data)), width, height, hri);
+end;
+
+function PrintSymbol(handle: Pointer; type_: Integer; const data: TQ7Texto; errorLevel: Integer; size: Integer): Integer;
+begin
+  Result := extPrintSymbol(handle, type_, PAnsiChar(UTF8Encode(data)), errorLevel, size);
+end;
+
+function PrintNVImage(handle: Pointer; k1: Integer; k2: Integer): Integer;
+begin
+  Result := extPrintNVImage(handle, k1, k2);
+end;
+
+function DefineNVImage(a: Integer; b: Integer; c: Integer; d: Integer): Integer;
+begin
+  Result := extDefineNVImage(a, b, c, d);
+end;
+
+function FeedLine(handle: Pointer; lines: Integer): Integer;
+begin
+  Result := extFeedLine(handle, lines);
+end;
+
+function CutPaper(handle: Pointer; lines: Integer): Integer;
+begin
+  Result := extCutPaper(handle, lines);
+end;
+
+function OpenDrawer(handle: Pointer; pin: Integer; onTime: Integer; offTime: Integer): Integer;
+begin
+  Result := extOpenDrawer(handle, pin, onTime, offTime);
+end;
+
+function OpenCashDrawer(handle: Pointer; pin: Integer; onTime: Integer; offTime: Integer): Integer;
+begin
+  Result := extOpenCashDrawer(handle, pin, onTime, offTime);
+end;
+
+function GetPrinterState(handle: Pointer; var state: Integer): Integer;
+begin
+  Result := extGetPrinterState(handle, state);
+end;
+
+function GetDrawerState(handle: Pointer; var state: Integer; polarity: Integer): Integer;
+begin
+  Result := extGetDrawerState(handle, state, polarity);
+end;
+
+function GetCashDrawerState(handle: Pointer; var state: Integer; polarity: Integer): Integer;
+begin
+  Result := extGetCashDrawerState(handle, state, polarity);
+end;
+
+function SelectPageMode(handle: Pointer): Integer;
+begin
+  Result := extSelectPageMode(handle);
+end;
+
+function SelectStandardMode(handle: Pointer): Integer;
+begin
+  Result := extSelectStandardMode(handle);
+end;
+
+function SelectPrintDirectionInPageMode(handle: Pointer; direction: Integer): Integer;
+begin
+  Result := extSelectPrintDirectionInPageMode(handle, direction);
+end;
+
+function SetPrintAreaInPageMode(handle: Pointer; x: Integer; y: Integer; width: Integer; height: Integer): Integer;
+begin
+  Result := extSetPrintAreaInPageMode(handle, x, y, width, height);
+end;
+
+function SetAbSolutePrintPosition(handle: Pointer; position: Integer): Integer;
+begin
+  Result := extSetAbSolutePrintPosition(handle, position);
+end;
+
+function SetAbsoluteVerticalPrintPositionInPageMode(handle: Pointer; position: Integer): Integer;
+begin
+  Result := extSetAbsoluteVerticalPrintPositionInPageMode(handle, position);
+end;
+
+function PrintDataInPageMode(handle: Pointer): Integer;
+begin
+  Result := extPrintDataInPageMode(handle);
+end;
+
+function CancelPrintDataInPageMode(handle: Pointer): Integer;
+begin
+  Result := extCancelPrintDataInPageMode(handle);
+end;
+
+function SetPrintAndReturnStandardMode(handle: Pointer): Integer;
+begin
+  Result := extSetPrintAndReturnStandardMode(handle);
+end;
+
+function PrtPrinterCreator(handle: Pointer; const model: TQ7Texto): Integer;
+begin
+  Result := extPrtPrinterCreator(handle, PAnsiChar(UTF8Encode(model)));
+end;
+
+function PrtPrinterDestroy(handle: Pointer): Integer;
+begin
+  Result := extPrtPrinterDestroy(handle);
+end;
+
+function PrtPortOpen(handle: Pointer; const text: TQ7Texto): Integer;
+begin
+  Result := extPrtPortOpen(handle, PAnsiChar(UTF8Encode(text)));
+end;
+
+function PrtPortClose(handle: Pointer): Integer;
+begin
+  Result := extPrtPortClose(handle);
+end;
+
+function PrtPrinterInitialize(handle: Pointer): Integer;
+begin
+  Result := extPrtPrinterInitialize(handle);
+end;
+
+function PrtPrintText(handle: Pointer; const text: TQ7Texto; alignment: Integer; style: Integer; size: Integer): Integer;
+begin
+  Result := extPrtPrintText(handle, PAnsiChar(UTF8Encode(text)), alignment, style, size);
+end;
+
+function PrtSetTextPosition(handle: Pointer; alignment: Integer): Integer;
+begin
+  Result := extPrtSetTextPosition(handle, alignment);
+end;
+
+function PrtSetTextBold(handle: Pointer; on_: Integer): Integer;
+begin
+  Result := extPrtSetTextBold(handle, on_);
+end;
+
+function PrtSetTextFont(handle: Pointer; font: Integer): Integer;
+begin
+  Result := extPrtSetTextFont(handle, font);
+end;
+
+function PrtPrintBarCode(handle: Pointer; type_: Integer; const data: TQ7Texto; width: Integer; height: Integer; hri: Integer): Integer;
+begin
+  Result := extPrtPrintBarCode(handle, type_, PAnsiChar(UTF8Encode(data)), width, height, hri);
+end;
+
+function PrtPrintSymbol(handle: Pointer; type_: Integer; const data: TQ7Texto; errorLevel: Integer; size: Integer): Integer;
+begin
+  Result := extPrtPrintSymbol(handle, type_, PAnsiChar(UTF8Encode(data)), errorLevel, size);
+end;
+
+function PrtFeedLine(handle: Pointer; lines: Integer): Integer;
+begin
+  Result := extPrtFeedLine(handle, lines);
+end;
+
+function PrtCutPaper(handle: Pointer; lines: Integer): Integer;
+begin
+  Result := extPrtCutPaper(handle, lines);
+end;
+
+function PrtOpenDrawer(handle: Pointer; pin: Integer; onTime: Integer; offTime: Integer): Integer;
+begin
+  Result := extPrtOpenDrawer(handle, pin, onTime, offTime);
+end;
+
+function PrtCheckPrinterState(handle: Pointer; var state: Integer): Integer;
+begin
+  Result := extPrtCheckPrinterState(handle, state);
+end;
+
+function PrtGetDrawerState(handle: Pointer; var state: Integer; polarity: Integer): Integer;
+begin
+  Result := extPrtGetDrawerState(handle, state, polarity);
+end;
+
+function PrtSelectPageMode(handle: Pointer): Integer;
+begin
+  Result := extPrtSelectPageMode(handle);
+end;
+
+function PrtSelectStandardMode(handle: Pointer): Integer;
+begin
+  Result := extPrtSelectStandardMode(handle);
+end;
+
+function PrtSelectPrintDirectionInPageMode(handle: Pointer; direction: Integer): Integer;
+begin
+  Result := extPrtSelectPrintDirectionInPageMode(handle, direction);
+end;
+
+function PrtSetPrintAreaInPageMode(handle: Pointer; x: Integer; y: Integer; width: Integer; height: Integer): Integer;
+begin
+  Result := extPrtSetPrintAreaInPageMode(handle, x, y, width, height);
+end;
+
+function PrtSetAbsoluteVerticalPrintPositionInPageMode(handle: Pointer; position: Integer): Integer;
+begin
+  Result := extPrtSetAbsoluteVerticalPrintPositionInPageMode(handle, position);
+end;
+
+function PrtPrintDataInPageMode(handle: Pointer): Integer;
+begin
+  Result := extPrtPrintDataInPageMode(handle);
+end;
+
+function PrtCancelPrintDataInPageMode(handle: Pointer): Integer;
+begin
+  Result := extPrtCancelPrintDataInPageMode(handle);
+end;
+
+function PrtSetPrintAndReturnStandardMode(handle: Pointer): Integer;
+begin
+  Result := extPrtSetPrintAndReturnStandardMode(handle);
+end;
+
+end.

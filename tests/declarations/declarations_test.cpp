@@ -1,0 +1,95 @@
+// What is checked in for other languages is what the header makes, and declares what is exported.
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <iterator>
+#include <map>
+#include <regex>
+
+namespace
+{
+
+namespace fs = std::filesystem;
+using Names = std::vector<std::string>;
+
+std::string contentOf(const fs::path& path)
+{
+    std::ifstream file(path, std::ios::binary);
+    EXPECT_TRUE(file) << path;
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+std::map<std::string, std::string> filesIn(const fs::path& folder)
+{
+    std::map<std::string, std::string> files;
+    for (const fs::directory_entry& entry : fs::recursive_directory_iterator(folder))
+        if (entry.is_regular_file())
+            files[fs::relative(entry.path(), folder).string()] = contentOf(entry.path());
+    return files;
+}
+
+Names namesIn(const std::string& text, const std::string& pattern)
+{
+    const std::regex regex(pattern, std::regex::ECMAScript | std::regex::multiline);
+    Names names(std::sregex_token_iterator(text.begin(), text.end(), regex, 1), {});
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+struct Language {
+    const char* name;
+    const char* file;
+    const char* declared; // what the library is asked for
+    const char* offered;  // what applications call
+};
+
+class Declarations : public testing::TestWithParam<Language>
+{
+};
+
+} // namespace
+
+TEST(Declarations, AreWhatTheHeaderMakes)
+{
+    const auto made = filesIn(Q7_MADE);
+    const auto checkedIn = filesIn(Q7_CHECKED_IN);
+    for (const auto& [file, content] : made)
+        EXPECT_TRUE(checkedIn.count(file) != 0 && checkedIn.at(file) == content)
+            << file << " is out of date: run scripts/declarations";
+    EXPECT_EQ(made.size(), checkedIn.size());
+}
+
+TEST_P(Declarations, NameEveryExportOnce)
+{
+    const Names exports = namesIn(contentOf(Q7_EXPORT_LIST), "^([A-Za-z]\\w*)$");
+    const std::string text = contentOf(fs::path(Q7_CHECKED_IN) / GetParam().file);
+    EXPECT_EQ(exports, namesIn(text, GetParam().declared));
+    // The message of a code is the one function that the library does not have.
+    Names offered = namesIn(text, GetParam().offered);
+    offered.erase(std::remove_if(offered.begin(), offered.end(),
+                                 [](const std::string& name) {
+                                     return name == "Mensagem" || name == "mensagem";
+                                 }),
+                  offered.end());
+    EXPECT_EQ(exports, offered);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Languages, Declarations,
+    testing::Values(
+        Language{"Delphi", "delphi/Q7Impressora.pas", "external Biblioteca name '(\\w+)'",
+                 "(?:function|procedure) (\\w+).*\r\nbegin"},
+        Language{"CSharp", "csharp/Q7Impressora.cs", "internal static extern \\w+ (\\w+)\\(",
+                 "public static \\w+ (\\w+)\\("},
+        Language{"Vb6", "vb6/Q7Impressora.bas",
+                 "Declare \\w+ (?:dll)?(\\w+) Lib \"Q7_Impressora.dll\"",
+                 "^Public (?:Declare )?(?:Function|Sub) (\\w+)"},
+        Language{"Java", "java/q7/Q7Impressora.java", "^        (?:int|void|Pointer) (\\w+)\\(",
+                 "public static \\w+ (\\w+)\\("},
+        Language{"Python", "python/q7_impressora.py", "^    \\(\"(\\w+)\", ",
+                 "^def ([A-Za-z]\\w*)"},
+        Language{"Php", "php/Q7Impressora.php", "^        \\['\\w+\\*?', '(\\w+)\\(",
+                 "public static function (\\w+)"}),
+    [](const auto& row) { return row.param.name; });

@@ -105,6 +105,17 @@ TEST_F(Replies, ALateReplyDoesNotAnswerTheNextQuery)
     EXPECT_STREQ("Q7", IdImpressora(2));
 }
 
+TEST_F(Replies, AReplyOnItsWayDoesNotAnswerTheNextQuery)
+{
+    openTcp();
+    answer(statusQuery(3), hex("60"));
+    farEnd->change([](PrinterScript& script) { script.lateMs = 1530; });
+    EXPECT_EQ(-81, StatusImpressora(3));
+    farEnd->change([](PrinterScript& script) { script.lateMs = 0; });
+    answer(statusQuery(3), hex("00"));
+    EXPECT_EQ(5, StatusImpressora(3));
+}
+
 TEST_F(Replies, Identification)
 {
     const std::string requests[] = {"01 31", "02 32", "41", "42", "43", "44", "45"};

@@ -10,6 +10,8 @@ int main(int argc, char** argv)
         const long kib = memoryGrowthKib(atoi(argv[2]));
         return kib < 0 ? 255 : kib > 254 ? 254 : (int)kib;
     }
+    if (argc == 3 && strcmp(argv[1], "talk") == 0)
+        return talkWhilePrinting(atoi(argv[2]));
     if (argc != 4)
         return 255;
     const struct HostPrinters printers = {atoi(argv[1]), atoi(argv[2]), argv[3]};

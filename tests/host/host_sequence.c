@@ -8,6 +8,7 @@
 #include <stdlib.h>
 #include <string.h>
 #include <sys/resource.h>
+#include <unistd.h>
 
 #define CHECK(condition)                                                                           \
     do {                                                                                           \
@@ -102,6 +103,16 @@ int runHostSequence(const struct HostPrinters* printers)
     while (ImpressaoTexto("abc\n", 0, 0, 0) == 4)
         ;
     CHECK(FechaConexaoImpressora() == -4);
+    return 0;
+}
+
+int talkWhilePrinting(int tcpPort)
+{
+    CHECK(AbreConexaoImpressora(3, "VANTA", "127.0.0.1", tcpPort) == 0);
+    for (int stream = 0; stream <= 2; ++stream)
+        CHECK(write(stream, "stray", 5) < 0);
+    CHECK(ImpressaoTexto("abc\n", 0, 0, 0) == 4);
+    CHECK(FechaConexaoImpressora() == 0);
     return 0;
 }
 

@@ -15,6 +15,9 @@ struct HostPrinters {
 /* Returns 0, or the number of the line on which something was not as it must be. */
 int runHostSequence(const struct HostPrinters* printers);
 
+/* Prints, and writes to the standard streams, all of which are closed. Returns as above. */
+int talkWhilePrinting(int tcpPort);
+
 /* Prints the same receipt 2,000 times. Returns the growth of the resident memory behind the first
  * 100, in KiB; -1 when printing failed. */
 long memoryGrowthKib(int tcpPort);

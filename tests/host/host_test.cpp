@@ -1,5 +1,6 @@
 // Programs of every kind that hold the library: they hear nothing from it and are not harmed.
 
+#include "bytes.h"
 #include "fake_printer.h"
 #include "program.h"
 #include "temporary_folder.h"
@@ -53,6 +54,15 @@ TEST_F(Host, MayUnloadTheLibrary)
         runProgram({Q7_HOST_LOADER, Q7_LIBRARY, std::to_string(printer.port())});
     EXPECT_EQ("", result.output);
     EXPECT_EQ(0, result.exitCode);
+}
+
+// The system gives the numbers of closed streams to what is opened next.
+TEST_F(Host, WithoutStandardStreamsPrintsNothingElse)
+{
+    const ProgramResult result = runProgram({"/bin/sh", "-c", R"(exec "$0" talk "$1" <&- >&- 2>&-)",
+                                             Q7_HOST_C, std::to_string(printer.port())});
+    EXPECT_EQ(0, result.exitCode) << "line of host_sequence.c";
+    EXPECT_TRUE(sameBytes(hex("1D 49 43  1B 40 1B 74 10") + "abc\n", printer.waitForClose()));
 }
 
 TEST_F(Host, LoadIsLogged)

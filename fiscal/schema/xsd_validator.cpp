@@ -5,8 +5,8 @@
 #include "log.h"
 #include "q7_impressora.h"
 
-#include <QRegularExpression>
 #include <QTextCodec>
+#include <regex>
 
 namespace q7
 {
@@ -48,12 +48,13 @@ QByteArray encodingOf(const QByteArray& document)
 {
     if (const QTextCodec* codec = QTextCodec::codecForUtfText(document, nullptr))
         return codec->name();
-    static const QRegularExpression declaration(
-        R"re(^<\?xml\s[^>]*\bencoding\s*=\s*["']([^"'>]*)["'])re");
+    static const std::regex declaration(R"re(^<\?xml\s[^>]*\bencoding\s*=\s*["']([^"'>]*)["'])re");
     constexpr int longestPrologue = 256;
-    return declaration.match(QString::fromLatin1(document.left(longestPrologue)))
-        .captured(1)
-        .toLatin1();
+    const QByteArray prologue = document.left(longestPrologue);
+    std::cmatch found;
+    if (!std::regex_search(prologue.begin(), prologue.end(), found, declaration))
+        return {};
+    return QByteArray::fromStdString(found[1]);
 }
 
 // A text in UTF-8, null when its bytes are none of its encoding. One that says of itself that it is

@@ -1,7 +1,8 @@
 # Debian's source packages, unpacked in the user's cache folder. Sourced after debian.sh.
 #
-#   fetch_source PACKAGE    its unpacked source in $sources/PACKAGE; ends the script as unavailable
-#                           when the archive does not have it
+#   fetch_source PACKAGE    its unpacked source in $sources/PACKAGE, changed by
+#                           scripts/patches/PACKAGE.patch where there is one; ends the script as
+#                           unavailable when the archive does not have it
 
 readonly sources=$(cache_folder)/sources
 
@@ -72,6 +73,10 @@ fetch_source() {
         tail -n 5 "$log" >&2
         fail "could not unpack the source package $package: $log"
     }
+    if [ -e "scripts/patches/$package.patch" ]; then
+        patch -d "$scratch/unpacked" -p1 <"scripts/patches/$package.patch" >>"$log" ||
+            fail "scripts/patches/$package.patch does not fit: $log"
+    fi
     mv "$scratch/unpacked" "$folder" # only whole
     rm -rf "$scratch"
 }

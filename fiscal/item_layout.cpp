@@ -40,13 +40,15 @@ int decimalsOf(const QString& number)
     return point < 0 ? -1 : number.size() - point - 1;
 }
 
-QString withoutTrailingZeros(QString number, int leastDecimals)
+QString withoutTrailingZeros(const QString& number, int leastDecimals)
 {
-    while (decimalsOf(number) > leastDecimals && number.endsWith(QLatin1Char('0')))
-        number.chop(1);
-    if (decimalsOf(number) == 0)
-        number.chop(1);
-    return number;
+    int decimals = decimalsOf(number);
+    if (decimals < 0)
+        return number;
+    int end = number.size();
+    for (; decimals > leastDecimals && number.at(end - 1) == QLatin1Char('0'); --decimals)
+        --end;
+    return number.left(decimals == 0 ? end - 1 : end);
 }
 
 QString withDecimalComma(QString number)

@@ -5,10 +5,10 @@
 namespace q7
 {
 
-void readCommonFields(const QDomNode& det, FiscalItem& item)
+void readCommonFields(const XmlNode& det, FiscalItem& item)
 {
-    const QDomNode prod = det.namedItem("prod");
-    item.number = det.toElement().attribute("nItem");
+    const XmlNode prod = det.child(u"prod");
+    item.number = det.attribute(u"nItem");
     item.code = childText(prod, "cProd");
     item.description = childText(prod, "xProd");
     item.quantity = childText(prod, "qCom");

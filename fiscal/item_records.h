@@ -1,7 +1,8 @@
 // The items of fiscal documents, as their item tables take them.
 #pragma once
 
-#include <QDomNode>
+#include "xml_tree.h"
+
 #include <QString>
 
 namespace q7
@@ -36,6 +37,6 @@ struct NfceItem : FiscalItem {
 };
 
 /** Fills what every item has from its det element. */
-void readCommonFields(const QDomNode& det, FiscalItem& item);
+void readCommonFields(const XmlNode& det, FiscalItem& item);
 
 } // namespace q7

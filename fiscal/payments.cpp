@@ -32,13 +32,12 @@ QString methodName(const QString& code, const QString& previousName)
 
 } // namespace
 
-std::vector<Payment> readPayments(const QDomNodeList& elements, const char* codeName,
+std::vector<Payment> readPayments(const std::vector<XmlNode>& elements, const char* codeName,
                                   const char* valueName)
 {
     std::vector<Payment> payments;
     QString name;
-    for (int i = 0; i < elements.length(); ++i) {
-        const QDomNode element = elements.item(i);
+    for (const XmlNode& element : elements) {
         name = methodName(childText(element, codeName), name);
         payments.push_back({name, amountOf(childText(element, valueName))});
     }

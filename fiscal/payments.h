@@ -1,7 +1,8 @@
 // The payments of fiscal documents.
 #pragma once
 
-#include <QDomNodeList>
+#include "xml_tree.h"
+
 #include <QString>
 #include <vector>
 
@@ -16,7 +17,7 @@ struct Payment {
 /** The payments that these elements are, in their order. codeName, valueName: the children that hold
  *  the method's code ("01") and the amount. A code without a name keeps the name of the payment
  *  before it (empty for the first), which integrators' receipts have always shown. */
-std::vector<Payment> readPayments(const QDomNodeList& elements, const char* codeName,
+std::vector<Payment> readPayments(const std::vector<XmlNode>& elements, const char* codeName,
                                   const char* valueName);
 
 } // namespace q7

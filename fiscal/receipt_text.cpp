@@ -33,17 +33,22 @@ QString labelAndValue(const QString& label, const QString& value, int columns)
 
 QString groupsOfFour(const QString& key)
 {
-    QString text = key;
-    for (int i = 4; i < text.size(); i += 5)
-        text.insert(i, QLatin1Char(' '));
+    QString text = blankAfterEveryFour(key);
+    if (!key.isEmpty() && key.size() % 4 == 0)
+        text.chop(1);
     return text;
 }
 
-QString blankAfterEveryFour(QString key)
+QString blankAfterEveryFour(const QString& key)
 {
-    for (int i = 4; i <= key.size(); i += 5)
-        key.insert(i, QLatin1Char(' '));
-    return key;
+    QString text;
+    text.reserve(key.size() + key.size() / 4);
+    for (int i = 0; i < key.size(); ++i) {
+        text += key.at(i);
+        if (i % 4 == 3)
+            text += QLatin1Char(' ');
+    }
+    return text;
 }
 
 } // namespace q7

@@ -34,6 +34,6 @@ QString groupsOfFour(const QString& key);
 
 /** A blank behind every group of four characters, the last one too when it is whole: "1234 5678 9",
  *  "1234 5678 ". */
-QString blankAfterEveryFour(QString key);
+QString blankAfterEveryFour(const QString& key);
 
 } // namespace q7

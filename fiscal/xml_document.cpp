@@ -1,29 +1,9 @@
 #include "xml_document.h"
 
-#include "bounded_xml.h"
-
-#include <QStringList>
-
 namespace q7
 {
 namespace
 {
-
-// The node that the first count parts lead to, or a null node.
-QDomNode nodeAt(const QDomDocument& document, const QStringList& parts, int count)
-{
-    if (parts.size() < 2)
-        return {};
-    int next = 1;
-    QDomNode node = document.namedItem(parts[0]);
-    if (node.isNull()) {
-        node = document.namedItem(parts[1]);
-        next = 2;
-    }
-    for (; next < count && !node.isNull(); ++next)
-        node = node.namedItem(parts[next]);
-    return node;
-}
 
 QStringList partsOf(const FieldPath& path)
 {
@@ -33,47 +13,53 @@ QStringList partsOf(const FieldPath& path)
 } // namespace
 
 FiscalXmlDocument::FiscalXmlDocument(const char* xml)
-    : m_document(readXml(QByteArray::fromRawData(xml, static_cast<int>(qstrlen(xml)))))
+    : m_tree(std::make_shared<const XmlTree>(
+          QByteArray::fromRawData(xml, static_cast<int>(qstrlen(xml)))))
 {
+}
+
+XmlNode FiscalXmlDocument::nodeAt(const QStringList& parts, int count) const
+{
+    if (parts.size() < 2)
+        return {};
+    int next = 1;
+    XmlNode node = m_tree->document().child(parts[0]);
+    if (node.isNull()) {
+        node = m_tree->document().child(parts[1]);
+        next = 2;
+    }
+    for (; next < count && !node.isNull(); ++next)
+        node = node.child(parts[next]);
+    return node;
 }
 
 QString FiscalXmlDocument::textAt(const FieldPath& path) const
 {
     const QStringList parts = partsOf(path);
-    return textOf(nodeAt(m_document, parts, parts.size()));
+    return nodeAt(parts, parts.size()).text();
 }
 
-QDomNodeList FiscalXmlDocument::listAt(const FieldPath& path) const
+std::vector<XmlNode> FiscalXmlDocument::listAt(const FieldPath& path) const
 {
     const QStringList parts = partsOf(path);
-    return nodeAt(m_document, parts, parts.size() - 1)
-        .toElement()
-        .elementsByTagName(parts.constLast());
+    return nodeAt(parts, parts.size() - 1).elementsNamed(parts.constLast());
 }
 
 QString FiscalXmlDocument::attributeAt(const FieldPath& path) const
 {
     const QStringList parts = partsOf(path);
-    return nodeAt(m_document, parts, parts.size() - 1)
-        .toElement()
-        .attribute(parts.constLast(), QString());
+    return nodeAt(parts, parts.size() - 1).attribute(parts.constLast());
 }
 
 bool FiscalXmlDocument::hasElementAt(const FieldPath& path) const
 {
     const QStringList parts = partsOf(path);
-    return nodeAt(m_document, parts, parts.size()).isElement();
+    return nodeAt(parts, parts.size()).isElement();
 }
 
-QString textOf(const QDomNode& node)
+QString childText(const XmlNode& parent, const char* name)
 {
-    const QDomNode first = node.firstChild();
-    return first.isText() ? first.nodeValue() : QString();
-}
-
-QString childText(const QDomNode& parent, const char* name)
-{
-    return textOf(parent.namedItem(QLatin1String(name)));
+    return parent.child(QString::fromLatin1(name)).text();
 }
 
 } // namespace q7

@@ -1,8 +1,12 @@
 // A fiscal document's XML, asked for its fields by path.
 #pragma once
 
-#include <QDomDocument>
+#include "xml_tree.h"
+
 #include <QString>
+#include <QStringList>
+#include <memory>
+#include <vector>
 
 namespace q7
 {
@@ -15,7 +19,7 @@ using FieldPath = QString;
 class FiscalXmlDocument
 {
 public:
-    /** xml: the text, up to its zero byte; null is empty. Text that cannot be taken (readXml) leaves
+    /** xml: the text, up to its zero byte; null is empty. Text that cannot be taken (XmlTree) leaves
      *  an empty document, in which every question finds nothing. */
     explicit FiscalXmlDocument(const char* xml);
 
@@ -25,7 +29,7 @@ public:
 
     /** Every element named by the path's last part anywhere below the element that the other parts
      *  lead to, in document order. */
-    QDomNodeList listAt(const FieldPath& path) const;
+    std::vector<XmlNode> listAt(const FieldPath& path) const;
 
     /** The attribute named by the path's last part; null when it is missing. */
     QString attributeAt(const FieldPath& path) const;
@@ -33,14 +37,13 @@ public:
     bool hasElementAt(const FieldPath& path) const;
 
 private:
-    QDomDocument m_document;
+    /** The node that the first count parts lead to, or none. */
+    XmlNode nodeAt(const QStringList& parts, int count) const;
+
+    std::shared_ptr<const XmlTree> m_tree; // of all copies
 };
 
-/** The text that a node begins with; null when it is null or begins with something else. CDATA
- *  counts as text. */
-QString textOf(const QDomNode& node);
-
-/** textOf() the first child of this name. */
-QString childText(const QDomNode& parent, const char* name);
+/** The text that the first child of this name begins with; null when there is none. */
+QString childText(const XmlNode& parent, const char* name);
 
 } // namespace q7

@@ -27,11 +27,11 @@ QString withKeyGrouped(QString text)
     return text;
 }
 
-NfceItem readItem(const QDomNode& det)
+NfceItem readItem(const XmlNode& det)
 {
     NfceItem item;
     readCommonFields(det, item);
-    item.gtin = childText(det.namedItem("prod"), "cEAN");
+    item.gtin = childText(det.child(u"prod"), "cEAN");
     return item;
 }
 
@@ -147,10 +147,10 @@ void NfceDocument::readRecipient()
 
 void NfceDocument::readItems()
 {
-    const QDomNodeList dets = listAt("nfeProc|NFe|infNFe|det");
-    items.reserve(static_cast<std::size_t>(dets.length()));
-    for (int i = 0; i < dets.length(); ++i)
-        items.push_back(readItem(dets.item(i)));
+    const std::vector<XmlNode> dets = listAt("nfeProc|NFe|infNFe|det");
+    items.reserve(dets.size());
+    for (const XmlNode& det : dets)
+        items.push_back(readItem(det));
 }
 
 void NfceDocument::readTotals()
@@ -164,9 +164,9 @@ void NfceDocument::readTotals()
 
 void NfceDocument::readPayments()
 {
-    const QDomNodeList elements = listAt("nfeProc|NFe|infNFe|pag|detPag");
+    const std::vector<XmlNode> elements = listAt("nfeProc|NFe|infNFe|pag|detPag");
     for (const Payment& payment : q7::readPayments(elements, "tPag", "vPag")) {
-        const QDomNode element = elements.item(static_cast<int>(payments.size()));
+        const XmlNode& element = elements[payments.size()];
         payments.push_back({payment, childText(element, "tPag"), childText(element, "xPag")});
     }
 }

@@ -12,7 +12,7 @@ CfeCancelDocument::CfeCancelDocument(const char* xml) : CfeDocument(xml, "CFeCan
     // Documents from SAT equipment carry the cancelled key as an attribute.
     saleKey = keyAt("chCanc");
     if (saleKey.isNull())
-        saleKey = fieldAt("chCanc").remove("CFe");
+        saleKey = withoutPrefix(fieldAt("chCanc"));
 }
 
 } // namespace q7

@@ -25,7 +25,13 @@ CfeDocument::CfeDocument(const char* xml, const QString& root)
 
 QString CfeDocument::keyAt(const QString& attribute) const
 {
-    return attributeAt(m_root + attribute).remove("CFe");
+    return withoutPrefix(attributeAt(m_root + attribute));
+}
+
+QString CfeDocument::withoutPrefix(QString key)
+{
+    // remove() would move the rest of the text each time.
+    return key.replace(QLatin1String("CFe"), QLatin1String());
 }
 
 } // namespace q7

@@ -31,6 +31,8 @@ protected:
     /** An attribute of infCFe that holds an access key: the key without its prefix "CFe". */
     QString keyAt(const QString& attribute) const;
 
+    static QString withoutPrefix(QString key);
+
 private:
     QString m_root; // "CFe|infCFe|"
 };

@@ -7,11 +7,11 @@ namespace q7
 namespace
 {
 
-CfeItem readItem(const QDomNode& det)
+CfeItem readItem(const XmlNode& det)
 {
-    const QDomNode prod = det.namedItem("prod");
-    const QDomNode imposto = det.namedItem("imposto");
-    const QDomNode issqn = imposto.namedItem("ISSQN");
+    const XmlNode prod = det.child(u"prod");
+    const XmlNode imposto = det.child(u"imposto");
+    const XmlNode issqn = imposto.child(u"ISSQN");
     CfeItem item;
     readCommonFields(det, item);
     item.discount = childText(prod, "vDesc");
@@ -55,10 +55,10 @@ CfeSaleDocument::CfeSaleDocument(const char* xml) : CfeDocument(xml, "CFe")
 
 void CfeSaleDocument::readItems()
 {
-    const QDomNodeList dets = listAt("CFe|infCFe|det");
-    items.reserve(static_cast<std::size_t>(dets.length()));
-    for (int i = 0; i < dets.length(); ++i)
-        items.push_back(readItem(dets.item(i)));
+    const std::vector<XmlNode> dets = listAt("CFe|infCFe|det");
+    items.reserve(dets.size());
+    for (const XmlNode& det : dets)
+        items.push_back(readItem(det));
 }
 
 } // namespace q7

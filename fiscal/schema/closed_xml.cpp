@@ -57,12 +57,12 @@ void declareEntity(void* context, const xmlChar* name, int type, const xmlChar* 
 
 } // namespace
 
-void FreeXmlTree::operator()(xmlDoc* tree) const
+void FreeParsedXml::operator()(xmlDoc* tree) const
 {
     xmlFreeDoc(tree);
 }
 
-XmlTree parseClosed(std::string_view text, Declarations allowed, SchemaFaults& faults)
+ParsedXml parseClosed(std::string_view text, Declarations allowed, SchemaFaults& faults)
 {
     const std::unique_ptr<xmlParserCtxt, FreeParser> parser(xmlNewParserCtxt());
     if (parser == nullptr)
@@ -74,7 +74,7 @@ XmlTree parseClosed(std::string_view text, Declarations allowed, SchemaFaults& f
         parser->sax->internalSubset = refuseDocumentType;
     else
         parser->sax->entityDecl = declareEntity;
-    XmlTree tree(xmlCtxtReadMemory(
+    ParsedXml tree(xmlCtxtReadMemory(
         parser.get(), text.data(), static_cast<int>(text.size()), nullptr, nullptr,
         XML_PARSE_NONET | XML_PARSE_NOENT | XML_PARSE_IGNORE_ENC | XML_PARSE_BIG_LINES));
     if (tree == nullptr && faults.size() == before)

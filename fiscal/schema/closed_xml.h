@@ -10,10 +10,10 @@
 namespace q7
 {
 
-struct FreeXmlTree {
+struct FreeParsedXml {
     void operator()(xmlDoc* tree) const;
 };
-using XmlTree = std::unique_ptr<xmlDoc, FreeXmlTree>;
+using ParsedXml = std::unique_ptr<xmlDoc, FreeParsedXml>;
 
 /** What XML text may declare before its root element. */
 enum class Declarations {
@@ -23,6 +23,6 @@ enum class Declarations {
 
 /** The tree of a text, null when it is not well-formed, nested deeper than 256 elements or declares
  *  what it may not; then at least one fault is added. text: in UTF-8, whatever its prologue says. */
-XmlTree parseClosed(std::string_view text, Declarations allowed, SchemaFaults& faults);
+ParsedXml parseClosed(std::string_view text, Declarations allowed, SchemaFaults& faults);
 
 } // namespace q7

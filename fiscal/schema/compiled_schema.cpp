@@ -82,7 +82,7 @@ SchemaFaults CompiledSchema::check(std::string_view document) const
     if (!m_faults.empty())
         return m_faults;
     SchemaFaults faults;
-    const XmlTree tree = parseClosed(document, Declarations::None, faults);
+    const ParsedXml tree = parseClosed(document, Declarations::None, faults);
     if (tree == nullptr)
         return faults;
     dropSchemaHints(tree.get());

@@ -151,7 +151,7 @@ void SchemaFiles::read(std::size_t number)
         return;
     }
     m_files[number].text = std::move(*content);
-    const XmlTree tree =
+    const ParsedXml tree =
         parseClosed(m_files[number].text, Declarations::NoExternalEntity, m_faults);
     if (tree != nullptr)
         m_files[number].text = relocated(number, *tree);

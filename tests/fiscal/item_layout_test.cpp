@@ -1,6 +1,8 @@
 // Item tables: items as whole lines of the receipt.
 #include "item_layout.h"
+#include "receipt_text.h"
 
+#include <QElapsedTimer>
 #include <QStringList>
 #include <gtest/gtest.h>
 
@@ -97,6 +99,20 @@ TEST(NfceItems, FillWholeLines)
         const q7::NfceItem item{{f[0], f[1], f[2], f[3], f[4], f[5], f[6]}, f[7]};
         EXPECT_EQ(q7::nfceItemLine(item, row.options, row.width).toStdString(), row.lines);
     }
+}
+
+// Hostile fields: what grows with the square of their length takes minutes here.
+TEST(LongFields, CostNoMoreThanTheirLength)
+{
+    QElapsedTimer timer;
+    timer.start();
+    const QString zeros = "1." + QString(4'000'000, '0');
+    const q7::NfceItem item{{"1", "101", "GAS", zeros, "L", zeros, "1.00"}, ""};
+    EXPECT_EQ(q7::nfceItemLine(item, 0, 64).toStdString(),
+              "101     GAS                        1     L       1,00       1,00");
+    EXPECT_EQ(q7::groupsOfFour(QString(4'000'000, '1')).size(), 4'999'999);
+    EXPECT_EQ(q7::blankAfterEveryFour(QString(4'000'000, '1')).size(), 5'000'000);
+    EXPECT_LT(timer.elapsed(), 10'000);
 }
 
 } // namespace

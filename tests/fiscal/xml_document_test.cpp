@@ -36,11 +36,11 @@ TEST(FiscalXmlDocument, AnswersByPath)
     EXPECT_TRUE(document.attributeAt("nfeProc|NFe|infNFe|id").isNull());
     EXPECT_TRUE(document.attributeAt("nfeProc|NFe|infCte|Id").isNull());
 
-    const QDomNodeList items = document.listAt("nfeProc|NFe|infNFe|det");
-    ASSERT_EQ(items.length(), 3);
+    const std::vector<q7::XmlNode> items = document.listAt("nfeProc|NFe|infNFe|det");
+    ASSERT_EQ(items.size(), 3u);
     for (int i = 0; i < 3; ++i)
-        EXPECT_EQ(items.item(i).toElement().attribute("nItem"), QString::number(i + 1));
-    EXPECT_EQ(document.listAt("nfeProc|NFe|infCte|det").length(), 0);
+        EXPECT_EQ(items[static_cast<std::size_t>(i)].attribute(u"nItem"), QString::number(i + 1));
+    EXPECT_TRUE(document.listAt("nfeProc|NFe|infCte|det").empty());
 }
 
 TEST(FiscalXmlDocument, FirstPartIsOptionalInTheDocument)

@@ -2,13 +2,13 @@
 #include "compiled_schema.h"
 #include "program.h"
 #include "temporary_folder.h"
+#include "xml_mutations.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <iterator>
-#include <random>
-#include <regex>
 #include <set>
 
 namespace
@@ -21,74 +21,6 @@ std::string fileContent(const fs::path& path)
     std::ifstream file(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
 }
-
-class Mutations
-{
-public:
-    Mutations(const std::string& document, unsigned seed) : m_document(document), m_random(seed)
-    {
-        static const std::regex tag("<[^?!][^>]*>");
-        for (std::sregex_iterator found(document.begin(), document.end(), tag), end; found != end;
-             ++found)
-            m_tags.push_back({static_cast<std::size_t>(found->position()),
-                              static_cast<std::size_t>(found->length())});
-    }
-
-    std::string next()
-    {
-        std::string made = m_document;
-        const std::size_t number = below(m_tags.size() - 1);
-        const Tag tag = m_tags[number];
-        const std::size_t behind = tag.begin + tag.size;
-        const std::size_t textSize = m_tags[number + 1].begin - behind;
-        switch (below(10)) {
-        case 0: // an element, or several and half of one
-            return made.erase(tag.begin,
-                              m_tags[std::min(number + 2, m_tags.size() - 1)].begin - tag.begin);
-        case 1: // a tag
-            return made.erase(tag.begin, tag.size);
-        case 2: // an element twice
-            return made.insert(behind, made.substr(tag.begin, tag.size + textSize) + "</" +
-                                           made.substr(tag.begin + 1, tag.size - 1));
-        case 3: // another text
-            return made.replace(behind, textSize, textSize == 0 ? "7" : "");
-        case 4:
-            return textSize == 0 ? made : made.insert(behind + below(textSize), "0");
-        case 5:
-        case 6: // a digit, which most often conforms
-            for (std::size_t at = behind + below(made.size() - behind); at < made.size(); ++at)
-                if (made[at] >= '0' && made[at] <= '9') {
-                    made[at] = static_cast<char>('0' + below(10));
-                    break;
-                }
-            return made;
-        case 7: // an attribute
-            return made[behind - 2] == '/' || made[tag.begin + 1] == '/'
-                       ? made
-                       : made.insert(behind - 1, " a='1'");
-        case 8: // a character
-            made[behind + below(made.size() - behind)] = "<>&\"xA\xc3 "[below(8)];
-            return made;
-        default: // other things that XML has
-            return made.insert(behind, m_other[below(std::size(m_other))]);
-        }
-    }
-
-private:
-    struct Tag {
-        std::size_t begin;
-        std::size_t size;
-    };
-
-    std::size_t below(std::size_t limit) { return m_random() % limit; }
-
-    static constexpr const char* m_other[] = {
-        "<!-- c -->", "<?p i?>",  "<![CDATA[1]]>",     "<x/>", "&#49;", "&amp;", "&no;", "\n",
-        "text",       "\xc3\xa3", "<x xmlns='urn:x'/>"};
-    const std::string m_document;
-    std::vector<Tag> m_tags;
-    std::mt19937 m_random;
-};
 
 // The files that conform, by xmllint.
 std::set<std::string> conformingByXmllint(const fs::path& schema,
@@ -117,7 +49,7 @@ void expectVerdictsOfXmllint(const fs::path& schemaFile, const std::vector<std::
     unsigned seed = 0;
     for (const std::string& document : documents) {
         add(document);
-        Mutations mutations(document, ++seed);
+        q7test::XmlMutations mutations(document, ++seed);
         for (unsigned i = 0; i < mutationsOfEach; ++i)
             add(mutations.next());
     }

@@ -174,6 +174,8 @@ TEST(XmlTree, AnswersAsQtsOwnTreeDoes)
 {
     unsigned seed = 0;
     for (const auto& entry : std::filesystem::directory_iterator(Q7_EXAMPLE_DOCUMENTS)) {
+        if (entry.path().extension() != ".xml")
+            continue;
         std::ifstream file(entry.path());
         const std::string document{std::istreambuf_iterator<char>(file), {}};
         ASSERT_NO_FATAL_FAILURE(expectSameTree(document));

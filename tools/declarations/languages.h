@@ -22,6 +22,8 @@ std::string pythonModule(const Interface& interface);
 std::string phpClass(const Interface& interface);
 /** The result codes as calls of a macro Q7_CODE(name, value, meaning, causes, remedy), for C++. */
 std::string cppCodes(const Interface& interface);
+/** What the codes' messages are, as a function q7_mensagem, for C. */
+std::string cMessages(const Interface& interface);
 
 /** The header's examples as a C program, to be compiled: they must be C, and name what there is. */
 std::string headerExamples(const Interface& interface);

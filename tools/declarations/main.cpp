@@ -29,6 +29,7 @@ constexpr Output declarations[] = {
     {"python/q7_impressora.py", pythonModule},
     {"php/Q7Impressora.php", phpClass},
     {"cpp/q7_codes.inc", cppCodes},
+    {"c/q7_mensagem.h", cMessages},
 };
 
 std::string contentOf(const std::filesystem::path& path)

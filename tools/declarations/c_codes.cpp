@@ -18,4 +18,29 @@ std::string cppCodes(const Interface& interface)
     return text + "// clang-format on\n";
 }
 
+std::string cMessages(const Interface& interface)
+{
+    std::string text = std::string("/* ") + generatedNote + R"( */
+#ifndef Q7_MENSAGEM_H
+#define Q7_MENSAGEM_H
+
+#include "q7_impressora.h"
+
+/* Diz o que um código de retorno significa e o que fazer, em UTF-8. */
+static const char* q7_mensagem(int codigo)
+{
+    switch (codigo) {
+)";
+    for (const ResultCode& code : interface.codes)
+        text +=
+            "    case " + code.name + ":\n        return " + doubleQuoted(messageOf(code)) + ";\n";
+    return text + R"(    default:
+        return codigo > 0 ? "Erro do sistema ou da rede." : "Código desconhecido.";
+    }
+}
+
+#endif /* Q7_MENSAGEM_H */
+)";
+}
+
 } // namespace q7decl

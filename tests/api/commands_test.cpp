@@ -80,6 +80,7 @@ const Row plainRows[] = {
 INSTANTIATE_TEST_SUITE_P(Plain, Command, testing::ValuesIn(plainRows));
 
 const std::string long253(253, 'x');
+const std::string long255(255, 'x');
 const std::string long256(256, 'x');
 
 const Row qrRows[] = {
@@ -105,6 +106,8 @@ const Row qrRows[] = {
     // The length is 3 more; up to 255 characters its high byte stays 0.
     {CALL(ImpressaoQRCode(long253.c_str(), 1, 1)), 0,
      "0A  1D 6B 51 00  02 0A 01 00 00 \"" + long253 + "\" 0A", "SORBE"},
+    {CALL(ImpressaoQRCode(long255.c_str(), 1, 1)), 0,
+     "0A  1D 6B 51 00  02 0A 01 02 00 \"" + long255 + "\" 0A", "SORBE"},
     {CALL(ImpressaoQRCode(long256.c_str(), 1, 1)), 0,
      "0A  1D 6B 51 00  02 0A 01 03 01 \"" + long256 + "\" 0A", "SORBE"},
     {CALL(ImpressaoQRCode("", 0, 0)), -53, "0A", "SORBE"},

@@ -56,6 +56,8 @@ const Operation operations[] = {
     {ONE(SetTextBold(h, 2)), "", -42, "SetTextBold- Parametros:2", LogsFirst},
     {ONE(SetTextFont(h, 0)), hex("1B 21 00"), 0, "SetTextFont- Parametros:0", LogsFirst},
     {BOTH(SetTextFont(h, 1)), hex("1B 21 01"), 0, "SetTextFont- Parametros:1", LogsFirst},
+    {ONE(SetTextFont(h, 2)), "", -42, "SetTextFont- Parametros:2", LogsFirst},
+    {ONE(SetTextFont(h, -1)), "", -42, "SetTextFont- Parametros:-1", LogsFirst},
     {ONE(SetTextLineSpace(256)), "", -43, "EspaçamentoEntreLinhas. PARAMETROS:256", LogsFirst},
     {BOTH(PrintBarCode(h, 2, "7891000315507", 3, 80, 2)), ean13, 0,
      "ImpressaoCodigoBarras. PARAMETROS:2,7891000315507,80,3,2"},

@@ -76,6 +76,21 @@ TEST(NfceItems, FillWholeLines)
          "12345 ABCDEFGHI LEITE              1     UN         5      10,58"},
         {"1234|ABCDEFGH|LEITE|1|UN|5.00|10.58|", 0x100, 64,
          "1234ABCDEFGHLEITE                  1     UN      5,00      10,58"},
+        // An amount, a quantity and a unit that leave no blank, and a price that fills its column.
+        {"1|101|LEITE|2|UN|5.29|99999.99|", 0, 56,
+         "101     LEITE                 2    UN     5,29 99.999,99"},
+        {"1|101|LEITE|2|UN|5.29|100000.00|", 0, 56,
+         "101     LEITE                                           "
+         "                                    2 UN 5,29 100.000,00"},
+        {"1|101|LEITE|12345|UN|5.29|10.58|", 0, 56,
+         "101     LEITE                                           "
+         "                                     12345 UN 5,29 10,58"},
+        {"1|101|LEITE|2|UNID|5.29|10.58|", 0, 56,
+         "101     LEITE                                           "
+         "                                       2 UNID 5,29 10,58"},
+        {"1|101|LEITE|2|UN|9999.99|10.58|", 0, 56,
+         "101     LEITE                                           "
+         "                                     2 UN 9.999,99 10,58"},
         // Figures that leave their columns, and that leave the line.
         {"1|101|GAS|30.125|L|5.67900|1234567.89|", 0, 64,
          "101     GAS                                                     "

@@ -10,6 +10,8 @@
 #include "fake_printer.h"
 #include "temporary_folder.h"
 
+#include <atomic>
+#include <cerrno>
 #include <fcntl.h>
 #include <filesystem>
 #include <fstream>
@@ -140,17 +142,61 @@ TEST_F(Usb, AVanishedDeviceGivesTheSystemsError)
     add(0, "VANTA", printer->serialPath());
     ASSERT_EQ(0, open("VANTA"));
     printer.reset();
-    EXPECT_EQ(5, connection.send("abc")); // EIO, positive: it can be taken for a count
+    for (int send = 0; send < 3; ++send)
+        EXPECT_EQ(5, connection.send("abc")); // EIO, positive: it can be taken for a count
+    EscreverLer reader(connection);
+    EXPECT_EQ(-81, reader.readReply(std::chrono::milliseconds(50), isOneByte).status);
+    EXPECT_TRUE(connection.isOpen()); // until the application closes it
     EXPECT_EQ(0, connection.close());
+}
+
+TEST_F(Usb, ACloseThatFailsGivesTheSystemsError)
+{
+    const PtyPrinter printer;
+    add(0, "VANTA", printer.serialPath());
+    ASSERT_EQ(0, open("VANTA"));
+    std::error_code ignored;
+    for (const auto& entry : fs::directory_iterator("/proc/self/fd"))
+        if (fs::read_symlink(entry, ignored) == printer.serialPath())
+            ::close(std::stoi(entry.path().filename()));
+    EXPECT_EQ(EBADF, connection.close());
+    EXPECT_FALSE(connection.isOpen());
+}
+
+/** Opens the printer end of a pseudo-terminal whose other end is a USB printer. */
+int openPrinterEnd()
+{
+    const int printer = ::posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK);
+    EXPECT_EQ(0, ::grantpt(printer) + ::unlockpt(printer));
+    termios raw = {};
+    ::cfmakeraw(&raw);
+    ::tcsetattr(printer, TCSANOW, &raw);
+    return printer;
+}
+
+TEST_F(Usb, ACloseWaitsForWhatTheDriverHolds)
+{
+    const int printer = openPrinterEnd();
+    add(0, "VANTA", ::ptsname(printer));
+    ASSERT_EQ(0, open("VANTA"));
+    while (connection.send(std::string(64, 'x')) > 0)
+        ; // what the system takes
+    std::atomic<bool> isReading = false;
+    std::thread reader([&] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(200)); // a slow printer
+        isReading = true;
+        for (char buffer[4096]; ::read(printer, buffer, sizeof buffer) > 0;)
+            ;
+    });
+    EXPECT_EQ(0, connection.close());
+    EXPECT_TRUE(isReading);
+    reader.join();
+    ::close(printer);
 }
 
 TEST_F(Usb, APrinterThatStopsReadingIsWaitedForOnceUntilItMoves)
 {
-    const int printer = ::posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK);
-    ASSERT_EQ(0, ::grantpt(printer) + ::unlockpt(printer));
-    termios raw = {};
-    ::cfmakeraw(&raw);
-    ::tcsetattr(printer, TCSANOW, &raw);
+    const int printer = openPrinterEnd();
     add(0, "VANTA", ::ptsname(printer));
     ASSERT_EQ(0, open("VANTA"));
     // What the system takes: the last of these sends in part, whose rest goes on later.

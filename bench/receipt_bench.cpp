@@ -1,7 +1,8 @@
 // What receipts cost the calling thread, over a loopback connection: CPU is the figure to read.
 //
-// Receipt/log_off stands beside RawWrites, which makes the same writes one by one and looks for the
-// log file before each line: their ratio is what the library adds.
+// Beside the receipt stands its floor: the same writes one by one, with a look for the log file
+// before each printed line, and with the log on the file opened, appended to and closed for each
+// line of the log. Their ratio is what the library adds.
 
 #include "documents.h"
 #include "loopback_sink.h"
@@ -10,10 +11,12 @@
 #include <benchmark/benchmark.h>
 #include <cstdio>
 #include <cstdlib>
+#include <fcntl.h>
 #include <filesystem>
 #include <fstream>
 #include <netinet/in.h>
 #include <netinet/tcp.h>
+#include <sstream>
 #include <sys/socket.h>
 #include <unistd.h>
 #include <vector>
@@ -81,26 +84,41 @@ void printReceipt()
     Corte(4);
 }
 
-/** The sends of one receipt, as the log records them. */
-std::vector<std::string> receiptSends()
+/** What one receipt sends and logs. */
+struct ReceiptRecord {
+    std::vector<std::string> sends;
+    std::vector<std::string> logLines; // with their line ends
+};
+
+ReceiptRecord recordReceipt()
 {
     {
         const ConnectedPrinter printer(true);
+        dataFolder.switchLog(true); // without the opening
         printReceipt();
+        std::filesystem::copy_file(dataFolder.logPath(), dataFolder.logPath() + ".receipt",
+                                   std::filesystem::copy_options::overwrite_existing);
     }
-    std::vector<std::string> sends;
-    std::ifstream log(dataFolder.logPath());
+    std::ostringstream log;
+    log << std::ifstream(dataFolder.logPath() + ".receipt").rdbuf();
+    const std::string text = log.str();
+    ReceiptRecord record;
     const std::string tag = "[COMANDOSENVIADOS].....[";
-    for (std::string line; std::getline(log, line);) {
+    const std::string lineEnd = "]\n"; // messages have line feeds of their own
+    for (std::size_t begin = 0; begin < text.size();) {
+        const std::size_t end = std::min(text.find(lineEnd + '[', begin), text.size() - 2);
+        const std::string line = text.substr(begin, end - begin);
+        record.logLines.push_back(line + lineEnd);
+        begin = end + lineEnd.size();
         const std::size_t start = line.find(tag);
         if (start == std::string::npos)
             continue;
         std::string bytes;
-        for (std::size_t digit = start + tag.size(); digit + 1 < line.size() - 1; digit += 2)
+        for (std::size_t digit = start + tag.size(); digit + 1 < line.size(); digit += 2)
             bytes += static_cast<char>(std::stoi(line.substr(digit, 2), nullptr, 16));
-        sends.push_back(bytes);
+        record.sends.push_back(bytes);
     }
-    return sends;
+    return record;
 }
 
 void receipt(benchmark::State& state, bool withLog)
@@ -127,10 +145,18 @@ void note(benchmark::State& state, bool withLog)
             std::abort();
 }
 
-void rawWrites(benchmark::State& state)
+/** As an operator's own program would: the log can be moved away between two lines. */
+void appendToLog(const std::string& path, const std::string& line)
 {
-    const std::vector<std::string> sends = receiptSends();
-    dataFolder.switchLog(false);
+    const int file = ::open(path.c_str(), O_WRONLY | O_APPEND | O_CLOEXEC);
+    benchmark::DoNotOptimize(::write(file, line.data(), line.size()));
+    ::close(file);
+}
+
+void rawWrites(benchmark::State& state, bool withLog)
+{
+    const ReceiptRecord record = recordReceipt();
+    dataFolder.switchLog(withLog);
     const LoopbackSink sink;
     const int link = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
     sockaddr_in address = {};
@@ -142,15 +168,20 @@ void rawWrites(benchmark::State& state)
     const int noDelay = 1;
     ::setsockopt(link, IPPROTO_TCP, TCP_NODELAY, &noDelay, sizeof noDelay);
     const std::string logPath = dataFolder.logPath();
-    const std::size_t sendsPerLine = sends.size() / receiptLines;
-    for (auto _ : state)
-        for (std::size_t index = 0; index < sends.size(); ++index) {
-            if (index % sendsPerLine == 0 && ::access(logPath.c_str(), F_OK) == 0)
+    const std::size_t sendsPerLine = record.sends.size() / receiptLines;
+    for (auto _ : state) {
+        for (std::size_t index = 0; index < record.sends.size(); ++index) {
+            if (index % sendsPerLine == 0 && (::access(logPath.c_str(), F_OK) == 0) != withLog)
                 std::abort();
             benchmark::DoNotOptimize(
-                ::send(link, sends[index].data(), sends[index].size(), MSG_NOSIGNAL));
+                ::send(link, record.sends[index].data(), record.sends[index].size(), MSG_NOSIGNAL));
         }
-    state.counters["sends"] = static_cast<double>(sends.size());
+        if (withLog)
+            for (const std::string& line : record.logLines)
+                appendToLog(logPath, line);
+    }
+    state.counters["sends"] = static_cast<double>(record.sends.size());
+    state.counters["lines"] = static_cast<double>(record.logLines.size());
     ::close(link);
 }
 
@@ -161,7 +192,8 @@ void forItemCounts(benchmark::internal::Benchmark* measured)
 
 } // namespace
 
-BENCHMARK(rawWrites)->Name("RawWrites")->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(rawWrites, off, false)->Name("RawWrites/log_off")->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(rawWrites, on, true)->Name("RawWrites/log_on")->Unit(benchmark::kMicrosecond);
 BENCHMARK_CAPTURE(receipt, off, false)->Name("Receipt/log_off")->Unit(benchmark::kMicrosecond);
 BENCHMARK_CAPTURE(receipt, on, true)->Name("Receipt/log_on")->Unit(benchmark::kMicrosecond);
 

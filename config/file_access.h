@@ -28,9 +28,25 @@ FileState readFile(const NativePath& path, QByteArray& bytes);
 /** Makes a file that does not exist. Returns whether it holds all the bytes; else there is none. */
 bool createFile(const NativePath& path, const QByteArray& bytes);
 
-/** Appends to a regular file that exists; never makes one. All of the bytes are added or, where the
- *  disk is full or a limit of the process's is reached, none. Returns false when the file cannot be
- *  opened for writing although it is there. */
-bool appendToFile(const NativePath& path, const QByteArray& bytes);
+/** A file that gets lines while others may move it away or put it in place: it is opened anew for
+ *  each and never made. What stands there is looked up once, when the object is made. */
+class AppendedFile
+{
+public:
+    AppendedFile() = default; // does not exist
+    explicit AppendedFile(NativePath path);
+
+    bool exists() const { return m_state != State::Missing; }
+
+    /** Adds all of the bytes or, where the disk is full or a limit of the process's is reached, none.
+     *  Returns false when what exists cannot be opened for writing or is no regular file. */
+    bool append(const QByteArray& bytes) const;
+
+private:
+    enum class State { Missing, Irregular, Limited, Free }; // Limited: in size, by the process
+
+    NativePath m_path;
+    State m_state = State::Missing;
+};
 
 } // namespace q7

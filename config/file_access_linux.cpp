@@ -11,46 +11,44 @@ namespace q7
 namespace
 {
 
-/** A regular file, open. */
-class RegularFile
+/** A file, open. Nothing waits, as for a pipe's other end. */
+class OpenFile
 {
 public:
-    // A pipe's open and a terminal's would wait or take hold of the process.
-    RegularFile(const NativePath& path, int flags, mode_t mode = 0)
+    OpenFile(const NativePath& path, int flags, mode_t mode = 0)
         : m_descriptor(
-              aboveStandard(::open(path.c_str(), flags | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, mode)))
+              aboveStandard(::open(path.c_str(), flags | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, mode))),
+          m_error(m_descriptor < 0 ? errno : 0)
     {
-        m_error = m_descriptor < 0 ? errno : 0;
-        if (m_error == 0 && (::fstat(m_descriptor, &m_status) != 0 || !S_ISREG(m_status.st_mode)))
-            m_error = EINVAL;
     }
-    ~RegularFile()
+    ~OpenFile()
     {
         if (m_descriptor >= 0)
             ::close(m_descriptor);
     }
-    RegularFile(const RegularFile&) = delete;
-    RegularFile& operator=(const RegularFile&) = delete;
+    OpenFile(const OpenFile&) = delete;
+    OpenFile& operator=(const OpenFile&) = delete;
 
-    int error() const { return m_error; } // 0 when it can be used
+    bool isOpen() const { return m_error == 0; }
     bool isMissing() const { return m_error == ENOENT || m_error == ENOTDIR; }
+
+    /** The size of a regular file, else -1. */
+    off_t size() const
+    {
+        struct stat status = {};
+        return ::fstat(m_descriptor, &status) == 0 && S_ISREG(status.st_mode) ? status.st_size : -1;
+    }
 
     /** Writes all of the bytes at the file's end, or none. */
     bool append(const QByteArray& bytes) const
     {
-        // Past the limit a write would end the process by a signal.
-        rlimit limit = {};
-        if (::getrlimit(RLIMIT_FSIZE, &limit) == 0 && limit.rlim_cur != RLIM_INFINITY &&
-            static_cast<rlim_t>(m_status.st_size + bytes.size()) > limit.rlim_cur)
-            return false;
         const ssize_t written =
             TEMP_FAILURE_RETRY(::write(m_descriptor, bytes.constData(), std::size_t(bytes.size())));
         if (written == bytes.size())
             return true;
         // A full disk takes a part. It is taken back, unless another process has gone on behind it.
-        struct stat status = {};
         const off_t end = ::lseek(m_descriptor, 0, SEEK_CUR);
-        if (written > 0 && ::fstat(m_descriptor, &status) == 0 && status.st_size == end)
+        if (written > 0 && size() == end)
             (void)!::ftruncate(m_descriptor, end - written);
         return false;
     }
@@ -66,9 +64,15 @@ public:
 
 private:
     int m_descriptor;
-    int m_error = 0;
-    struct stat m_status = {};
+    int m_error;
 };
+
+// Past this size a write would end the process by a signal.
+rlim_t sizeLimit()
+{
+    rlimit limit = {};
+    return ::getrlimit(RLIMIT_FSIZE, &limit) == 0 ? limit.rlim_cur : RLIM_INFINITY;
+}
 
 } // namespace
 
@@ -92,29 +96,42 @@ NativePath workingFolder()
 FileState readFile(const NativePath& path, QByteArray& bytes)
 {
     bytes.clear();
-    const RegularFile file(path, O_RDONLY);
+    const OpenFile file(path, O_RDONLY);
     if (file.isMissing())
         return FileState::Missing;
-    return file.error() == 0 && file.read(bytes) ? FileState::Read : FileState::Unreadable;
+    return file.isOpen() && file.size() >= 0 && file.read(bytes) ? FileState::Read
+                                                                 : FileState::Unreadable;
 }
 
 bool createFile(const NativePath& path, const QByteArray& bytes)
 {
-    const RegularFile file(path, O_WRONLY | O_CREAT | O_EXCL, 0666);
-    if (file.error() != 0)
+    if (static_cast<rlim_t>(bytes.size()) > sizeLimit())
         return false;
-    if (file.append(bytes))
-        return true;
+    const OpenFile file(path, O_WRONLY | O_CREAT | O_EXCL, 0666);
+    if (!file.isOpen() || file.append(bytes))
+        return file.isOpen();
     ::unlink(path.c_str());
     return false;
 }
 
-bool appendToFile(const NativePath& path, const QByteArray& bytes)
+AppendedFile::AppendedFile(NativePath path) : m_path(std::move(path))
 {
-    const RegularFile file(path, O_WRONLY | O_APPEND);
-    if (file.error() == 0)
+    struct stat status = {};
+    if (::stat(m_path.c_str(), &status) == 0)
+        m_state = !S_ISREG(status.st_mode)       ? State::Irregular
+                  : sizeLimit() == RLIM_INFINITY ? State::Free
+                                                 : State::Limited;
+}
+
+bool AppendedFile::append(const QByteArray& bytes) const
+{
+    if (m_state == State::Irregular)
+        return false;
+    const OpenFile file(m_path, O_WRONLY | O_APPEND);
+    if (file.isOpen() &&
+        (m_state == State::Free || static_cast<rlim_t>(file.size() + bytes.size()) <= sizeLimit()))
         file.append(bytes);
-    return file.error() == 0 || file.isMissing();
+    return file.isOpen() || file.isMissing();
 }
 
 } // namespace q7

@@ -107,18 +107,22 @@ bool createFile(const NativePath& path, const QByteArray& bytes)
 {
     {
         const OpenFile file(path, GENERIC_WRITE, CREATE_NEW);
-        if (!file.isOpen())
-            return false;
-        if (file.append(bytes))
-            return true;
+        if (!file.isOpen() || file.append(bytes))
+            return file.isOpen();
     }
     ::DeleteFileW(path.c_str());
     return false;
 }
 
-bool appendToFile(const NativePath& path, const QByteArray& bytes)
+AppendedFile::AppendedFile(NativePath path) : m_path(std::move(path))
 {
-    const OpenFile file(path, GENERIC_WRITE, OPEN_EXISTING);
+    if (fileExists(m_path))
+        m_state = State::Free;
+}
+
+bool AppendedFile::append(const QByteArray& bytes) const
+{
+    const OpenFile file(m_path, GENERIC_WRITE, OPEN_EXISTING);
     if (file.isOpen())
         file.append(bytes);
     return file.isOpen() || file.isMissing();

@@ -30,41 +30,40 @@ const char* tagOf(int kind)
     }
 }
 
-/** The path of the log while it is on, else empty. */
-NativePath findLog()
+AppendedFile findLog()
 {
-    NativePath path = pathInDataFolder(logFileName);
-    if (!fileExists(path))
-        path.clear();
-    return path;
+    return AppendedFile(pathInDataFolder(logFileName));
 }
 
 // The call under way. Exports of several threads take turns.
 std::atomic<const LogCall*> callUnderWay{nullptr};
 
-void appendNumber(QByteArray& line, int number, int digits, char behind)
+// By hand: a receipt is a thousand lines of the log.
+void put(char*& position, int number, int digits, char behind)
 {
-    for (int divisor = digits == 4 ? 1000 : digits == 3 ? 100 : 10; divisor > 0; divisor /= 10)
-        line += static_cast<char>('0' + number / divisor % 10);
-    line += behind;
+    for (int digit = digits; digit > 0; number /= 10)
+        position[--digit] = static_cast<char>('0' + number % 10);
+    position[digits] = behind;
+    position += digits + 1;
 }
 
 QByteArray makeLine(int kind, const char* message)
 {
-    const char* tag = tagOf(kind);
+    const LocalTime now = localTime();
+    char time[] = "[dd.MM.yyyy-hh:mm:ss.zzz]";
+    char* position = time + 1;
+    put(position, now.day, 2, '.');
+    put(position, now.month, 2, '.');
+    put(position, now.year, 4, '-');
+    put(position, now.hour, 2, ':');
+    put(position, now.minute, 2, ':');
+    put(position, now.second, 2, '.');
+    put(position, now.millisecond, 3, ']');
+
     const std::size_t length = std::strlen(message);
     QByteArray line;
     line.reserve(static_cast<int>(length) + 64);
-    const LocalTime now = localTime();
-    line += '[';
-    appendNumber(line, now.day, 2, '.');
-    appendNumber(line, now.month, 2, '.');
-    appendNumber(line, now.year, 4, '-');
-    appendNumber(line, now.hour, 2, ':');
-    appendNumber(line, now.minute, 2, ':');
-    appendNumber(line, now.second, 2, '.');
-    appendNumber(line, now.millisecond, 3, ']');
-    line += tag;
+    line.append(time, sizeof time - 1).append(tagOf(kind));
     const auto isAscii = [](char c) { return static_cast<signed char>(c) >= 0; };
     if (std::all_of(message, message + length, isAscii))
         line.append(message, static_cast<int>(length));
@@ -78,7 +77,7 @@ QByteArray makeLine(int kind, const char* message)
 LogCall::LogCall()
 {
     if (callUnderWay == nullptr) {
-        m_logPath = findLog();
+        m_file = findLog();
         callUnderWay = this;
     }
 }
@@ -92,19 +91,18 @@ LogCall::~LogCall()
 bool logIsOn()
 {
     const LogCall* call = callUnderWay;
-    return call == nullptr ? !findLog().empty() : !call->m_logPath.empty();
+    return call == nullptr ? findLog().exists() : call->m_file.exists();
 }
 
 void writeLog(int kind, const char* message)
 {
     const LogCall* call = callUnderWay;
-    const NativePath found = call == nullptr ? findLog() : NativePath();
-    const NativePath& path = call == nullptr ? found : call->m_logPath;
-    if (path.empty())
+    const AppendedFile found = call == nullptr ? findLog() : AppendedFile();
+    const AppendedFile& file = call == nullptr ? found : call->m_file;
+    if (!file.exists())
         return;
 
-    // Opened for each line, so that an operator can move the file away while the library is loaded.
-    if (!appendToFile(path, makeLine(kind, message))) {
+    if (!file.append(makeLine(kind, message))) {
         std::fputs("Erro ao abrir arquivo!\n", stdout);
         std::fflush(stdout);
     }

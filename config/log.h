@@ -28,7 +28,7 @@ private:
     friend bool logIsOn();
     friend void writeLog(int kind, const char* message);
 
-    NativePath m_logPath; // of the outermost; empty while the log is off
+    AppendedFile m_file; // of the outermost
 };
 
 /** Whether the log is on. Callers that would compose a text for it ask first. */

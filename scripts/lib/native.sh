@@ -4,7 +4,8 @@ readonly library_packages=(cmake ninja-build g++ qtbase5-dev libasio-dev libsimp
     libxml2-dev)
 readonly printer_packages=(libzint-dev liblodepng-dev libfreetype-dev libcli11-dev
     libcpp-httplib-dev nlohmann-json3-dev fonts-dejavu-core)
-readonly test_packages=(castxml libgtest-dev libbenchmark-dev libzbar-dev libxml2-utils)
+readonly test_packages=(castxml libgtest-dev libbenchmark-dev libzbar-dev libxml2-utils
+    chromium)
 
 # configure PRESET OPTION...: quiet unless it fails.
 configure() {

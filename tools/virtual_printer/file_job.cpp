@@ -76,6 +76,11 @@ void FileJob::receiptText(std::string_view piece)
     m_text << piece;
 }
 
+void FileJob::receiptNote(std::string_view text)
+{
+    m_text << "[" << text << "]\n";
+}
+
 void FileJob::receiptPicture(std::string png)
 {
     const std::size_t part = m_picturePaths.size() + 1;

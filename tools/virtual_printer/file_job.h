@@ -41,6 +41,7 @@ public:
 private:
     void beginReceipt(int number) override;
     void receiptText(std::string_view piece) override;
+    void receiptNote(std::string_view text) override;
     void receiptPicture(std::string png) override;
     void endReceipt() override;
 

@@ -44,7 +44,7 @@ void Receipts::feed(int dots)
 void Receipts::note(std::string_view text)
 {
     begin();
-    m_taker.receiptText("[" + std::string(text) + "]\n");
+    m_taker.receiptNote(text);
     if (m_picture) {
         m_picture->note(text);
     }

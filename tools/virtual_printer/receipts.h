@@ -22,6 +22,8 @@ public:
     virtual void beginReceipt(int number) = 0;
     /** The next piece of the receipt as UTF-8 text. */
     virtual void receiptText(std::string_view piece) = 0;
+    /** Something that left no dots, at this place. */
+    virtual void receiptNote(std::string_view text) = 0;
     /** The next part of its picture. */
     virtual void receiptPicture(std::string png) = 0;
     virtual void endReceipt() = 0;

@@ -320,7 +320,7 @@ struct Server::Links {
     {
         const tcp::endpoint wanted(asio::ip::make_address_v4(settings.address), settings.port);
         acceptor.open(wanted.protocol());
-        claimPort(acceptor);
+        claimPort(acceptor.native_handle());
         if (settings.behaviour.readBytesPerSecond > 0 ||
             settings.behaviour.readBytesAtMost < UINT64_MAX) {
             keepBuffersSmall(acceptor);

@@ -11,8 +11,8 @@ namespace virtual_printer
 {
 
 /** Lets the port be taken again at once after an earlier printer's end, and by nobody else while
- *  this one has it. Before bind. */
-void claimPort(asio::ip::tcp::acceptor& acceptor);
+ *  this one has it. Before bind. Throws std::system_error. */
+void claimPort(asio::ip::tcp::acceptor::native_handle_type listener);
 
 /** Makes a slow reader felt by the sender: keeps what the systems hold back for it small, as far as
  *  this system can. Before listen. */

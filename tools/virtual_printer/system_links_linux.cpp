@@ -59,9 +59,10 @@ void makeRaw(const std::string& path)
 
 } // namespace
 
-void claimPort(asio::ip::tcp::acceptor& acceptor)
+void claimPort(asio::ip::tcp::acceptor::native_handle_type listener)
 {
-    acceptor.set_option(asio::socket_base::reuse_address(true));
+    const int on = 1;
+    checked(setsockopt(listener, SOL_SOCKET, SO_REUSEADDR, &on, sizeof on), "setsockopt");
 }
 
 void keepBuffersSmall(asio::ip::tcp::acceptor& acceptor)

@@ -2,25 +2,15 @@
 
 namespace virtual_printer
 {
-namespace
-{
 
-/** A socket option that is a switch, for asio's set_option. */
-struct ExclusiveAddress {
-    BOOL on = TRUE;
-
-    template <typename Protocol> int level(const Protocol&) const { return SOL_SOCKET; }
-    template <typename Protocol> int name(const Protocol&) const { return SO_EXCLUSIVEADDRUSE; }
-    template <typename Protocol> const void* data(const Protocol&) const { return &on; }
-    template <typename Protocol> std::size_t size(const Protocol&) const { return sizeof on; }
-};
-
-} // namespace
-
-void claimPort(asio::ip::tcp::acceptor& acceptor)
+void claimPort(asio::ip::tcp::acceptor::native_handle_type listener)
 {
     // Here reuse would let a second program take the port away.
-    acceptor.set_option(ExclusiveAddress());
+    const BOOL on = TRUE;
+    if (setsockopt(listener, SOL_SOCKET, SO_EXCLUSIVEADDRUSE, reinterpret_cast<const char*>(&on),
+                   sizeof on) != 0) {
+        throw std::system_error(WSAGetLastError(), std::system_category(), "setsockopt");
+    }
 }
 
 void keepBuffersSmall(asio::ip::tcp::acceptor& acceptor)

@@ -1,11 +1,10 @@
 // The functions that the library exports: listed, declared and built are the same.
 
 #include "program.h"
+#include "test_files.h"
 
 #include <algorithm>
-#include <fstream>
 #include <gtest/gtest.h>
-#include <iterator>
 #include <regex>
 
 using namespace q7test;
@@ -14,12 +13,6 @@ namespace
 {
 
 using Names = std::vector<std::string>;
-
-std::string contentOf(const char* path)
-{
-    std::ifstream file(path);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
 
 Names namesIn(const std::string& text, const char* pattern)
 {
@@ -42,11 +35,11 @@ Names difference(const Names& left, const Names& right)
 
 TEST(Exports, ListHeaderAndLibraryAgree)
 {
-    const Names listed = namesIn(contentOf(Q7_EXPORT_LIST), "^([A-Za-z]\\w*)$");
+    const Names listed = namesIn(fileContent(Q7_EXPORT_LIST), "^([A-Za-z]\\w*)$");
     const ProgramResult nm = runProgram({Q7_NM, "-D", "--defined-only", Q7_LIBRARY});
     ASSERT_EQ(0, nm.exitCode) << nm.output;
     EXPECT_EQ(86U, listed.size());
     EXPECT_EQ(Names(),
-              difference(listed, namesIn(contentOf(Q7_PUBLIC_HEADER), "Q7_CALL (\\w+)\\(")));
+              difference(listed, namesIn(fileContent(Q7_PUBLIC_HEADER), "Q7_CALL (\\w+)\\(")));
     EXPECT_EQ(Names(), difference(listed, namesIn(nm.output, "^\\S+ \\w (\\S+)$")));
 }

@@ -1,10 +1,9 @@
 // What is checked in for other languages is what the header makes, and declares what is exported.
+#include "test_files.h"
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
 #include <gtest/gtest.h>
-#include <iterator>
 #include <map>
 #include <regex>
 
@@ -14,19 +13,12 @@ namespace
 namespace fs = std::filesystem;
 using Names = std::vector<std::string>;
 
-std::string contentOf(const fs::path& path)
-{
-    std::ifstream file(path, std::ios::binary);
-    EXPECT_TRUE(file) << path;
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
 std::map<std::string, std::string> filesIn(const fs::path& folder)
 {
     std::map<std::string, std::string> files;
     for (const fs::directory_entry& entry : fs::recursive_directory_iterator(folder))
         if (entry.is_regular_file())
-            files[fs::relative(entry.path(), folder).string()] = contentOf(entry.path());
+            files[fs::relative(entry.path(), folder).string()] = q7test::fileContent(entry.path());
     return files;
 }
 
@@ -63,8 +55,8 @@ TEST(Declarations, AreWhatTheHeaderMakes)
 
 TEST_P(Declarations, NameEveryExportOnce)
 {
-    const Names exports = namesIn(contentOf(Q7_EXPORT_LIST), "^([A-Za-z]\\w*)$");
-    const std::string text = contentOf(fs::path(Q7_CHECKED_IN) / GetParam().file);
+    const Names exports = namesIn(q7test::fileContent(Q7_EXPORT_LIST), "^([A-Za-z]\\w*)$");
+    const std::string text = q7test::fileContent(fs::path(Q7_CHECKED_IN) / GetParam().file);
     EXPECT_EQ(exports, namesIn(text, GetParam().declared));
     // The message of a code is the one function that the library does not have.
     Names offered = namesIn(text, GetParam().offered);

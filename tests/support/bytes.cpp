@@ -68,16 +68,22 @@ std::string excerpt(std::string_view bytes, std::size_t offset)
 
 } // namespace
 
-std::string hex(std::string_view digits)
+std::string hex(std::string_view notation)
 {
     std::string bytes;
-    for (std::size_t at = 0; at < digits.size();) {
-        if (std::isspace(static_cast<Byte>(digits[at]))) {
+    for (std::size_t at = 0; at < notation.size();) {
+        if (std::isspace(static_cast<Byte>(notation[at]))) {
             ++at;
-            continue;
+        } else if (notation[at] == '\'') {
+            const std::size_t end = notation.find('\'', at + 1);
+            if (end == std::string_view::npos)
+                throw std::invalid_argument("text without its closing quote");
+            bytes += notation.substr(at + 1, end - at - 1);
+            at = end + 1;
+        } else {
+            bytes += hexByte(notation.substr(at, 2));
+            at += 2;
         }
-        bytes += hexByte(digits.substr(at, 2));
-        at += 2;
     }
     return bytes;
 }

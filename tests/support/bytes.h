@@ -9,8 +9,9 @@
 namespace q7test
 {
 
-/** "1B 61 01  1B 74 10" as bytes; white space is free. Throws on anything else. */
-std::string hex(std::string_view digits);
+/** "1B 61 01 'abc' 0A" as bytes: hexadecimal pairs, and text between single quotes. White space is
+ *  free between them. Throws on anything else. */
+std::string hex(std::string_view notation);
 
 /** The bytes that lines in the form of golden files stand for:
  *

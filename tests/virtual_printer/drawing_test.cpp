@@ -1,6 +1,7 @@
-#include "bytes.h"
 #include "recorded_connection.h"
+#include "streams.h"
 #include "table_glyphs.h"
+#include "test_files.h"
 
 #include <gtest/gtest.h>
 #include <lodepng.h>
@@ -13,6 +14,7 @@
 #include <unistd.h>
 
 using namespace virtual_printer;
+using q7test::hex;
 
 namespace
 {
@@ -77,8 +79,7 @@ protected:
 
     std::string file(const char* name) const
     {
-        std::ifstream in(m_folder / name, std::ios::binary);
-        return {std::istreambuf_iterator<char>(in), {}};
+        return q7test::fileContent((m_folder / name).string());
     }
 
     std::filesystem::path m_folder;
@@ -108,7 +109,7 @@ const std::string qrText =
 /** Every style, alignment, size, symbol and mode, on a small receipt. */
 std::string everyStyle()
 {
-    return bytes(
+    return hex(
         "1B 40 1B 74 10 'Fonte A: ' E7 E3 'o' 0A 1B 21 01 'Fonte B: ' E7 E3 'o' 0A"
         "1B 40 1B 74 10 1B 61 01 1B 45 01 'Negrito' 1B 45 00 ' normal' 0A"
         "1B 61 02 1B 21 80 'Sublinhado ' 1B 21 81 'pequeno' 0A 1B 21 00 1B 61 00"
@@ -140,7 +141,7 @@ Graphics testGraphic()
 
 TEST_F(Drawing, SymbolsCanBeScanned)
 {
-    const std::string centred = bytes("1B 61 01 1D 68 32 1D 77 02 0A");
+    const std::string centred = hex("1B 61 01 1D 68 32 1D 77 02 0A");
     const std::string qrSize{static_cast<char>(qrText.size() + 3), '\0'};
     struct Row {
         const char* model;
@@ -149,26 +150,26 @@ TEST_F(Drawing, SymbolsCanBeScanned)
     };
     const Row rows[] = {
         {"VANTA",
-         bytes("1D 28 6B 03 00 31 43 04 1D 28 6B 03 00 31 45 31 1D 28 6B") + qrSize +
-             bytes("31 50 30") + qrText + bytes("1D 28 6B 03 00 31 51 30 0A"),
+         hex("1D 28 6B 03 00 31 43 04 1D 28 6B 03 00 31 45 31 1D 28 6B") + qrSize +
+             hex("31 50 30") + qrText + hex("1D 28 6B 03 00 31 51 30 0A"),
          "QR-Code:" + qrText},
-        {"ORLA-K", bytes("1D 6F 00 04 00 02 1D 6B 0B 'MA,'") + qrText + bytes("00 0A"),
+        {"ORLA-K", hex("1D 6F 00 04 00 02 1D 6B 0B 'MA,'") + qrText + hex("00 0A"),
          "QR-Code:" + qrText},
-        {"SORBE", bytes("1D 6B 51 00 08 0E 01") + qrSize + qrText + "\n", "QR-Code:" + qrText},
+        {"SORBE", hex("1D 6B 51 00 08 0E 01") + qrSize + qrText + "\n", "QR-Code:" + qrText},
         {"VANTA",
-         bytes("1D 48 04 1D 6B 49 18 '{C' 23 18 01 0B 16 17 21 00 01 51 3B 00 00 0C 22 38 4E 0C 22 "
-               "38 4E 5A"),
+         hex("1D 48 04 1D 6B 49 18 '{C' 23 18 01 0B 16 17 21 00 01 51 3B 00 00 0C 22 38 4E 0C 22 "
+             "38 4E 5A"),
          "CODE-128:" + accessKey},
-        {"SORBE", bytes("1D 6B 49 0C 'Caixa 123456' 0A"), "CODE-128:Caixa 123456"},
-        {"VANTA", bytes("1D 6B 49 08 '{BAb{C' 0C 22"), "CODE-128:Ab1234"},
-        {"VANTA", bytes("1D 6B 41 0B '03600029145'"), "UPC-A:036000291452"},
-        {"VANTA", bytes("1D 6B 42 0B '04210000526'"), "UPC-E:04252614"},
-        {"VANTA", bytes("1D 6B 43 0C '789100031550'"), "EAN-13:7891000315507"},
-        {"VANTA", bytes("1D 6B 44 07 '9638507'"), "EAN-8:96385074"},
-        {"VANTA", bytes("1D 6B 45 05 'A-1.Z'"), "CODE-39:A-1.Z"},
-        {"VANTA", bytes("1D 6B 46 06 '123456'"), "I2/5:123456"},
-        {"VANTA", bytes("1D 6B 47 06 'A12-3B'"), "Codabar:A12-3B"},
-        {"VANTA", bytes("1D 6B 48 04 'Ab1 '"), "CODE-93:Ab1 "}};
+        {"SORBE", hex("1D 6B 49 0C 'Caixa 123456' 0A"), "CODE-128:Caixa 123456"},
+        {"VANTA", hex("1D 6B 49 08 '{BAb{C' 0C 22"), "CODE-128:Ab1234"},
+        {"VANTA", hex("1D 6B 41 0B '03600029145'"), "UPC-A:036000291452"},
+        {"VANTA", hex("1D 6B 42 0B '04210000526'"), "UPC-E:04252614"},
+        {"VANTA", hex("1D 6B 43 0C '789100031550'"), "EAN-13:7891000315507"},
+        {"VANTA", hex("1D 6B 44 07 '9638507'"), "EAN-8:96385074"},
+        {"VANTA", hex("1D 6B 45 05 'A-1.Z'"), "CODE-39:A-1.Z"},
+        {"VANTA", hex("1D 6B 46 06 '123456'"), "I2/5:123456"},
+        {"VANTA", hex("1D 6B 47 06 'A12-3B'"), "Codabar:A12-3B"},
+        {"VANTA", hex("1D 6B 48 04 'Ab1 '"), "CODE-93:Ab1 "}};
     for (const auto& [model, stream, content] : rows) {
         draw(centred + stream, model);
         EXPECT_EQ(readSymbols(picture()), content) << model;
@@ -177,7 +178,7 @@ TEST_F(Drawing, SymbolsCanBeScanned)
 
 TEST_F(Drawing, ALineOf64ColumnsFillsTheWidth)
 {
-    draw(bytes("1B 21 01") + std::string(64, '#') + "\n");
+    draw(hex("1B 21 01") + std::string(64, '#') + "\n");
     const Picture8 image = picture();
     const auto cell = [&image](int x) {
         std::string dots;
@@ -222,7 +223,7 @@ TEST_F(Drawing, EveryStyleLooksAsInTheReferencePicture)
 
 TEST_F(Drawing, ACutEndsAReceipt)
 {
-    draw(bytes("'one' 0A 1D 56 00 1D 56 00 'two' 0A 1B 7A 'three'"));
+    draw(hex("'one' 0A 1D 56 00 1D 56 00 'two' 0A 1B 7A 'three'"));
     EXPECT_EQ(m_wrote.size(), 4U) << "a text and a picture of each of two receipts";
     EXPECT_EQ(m_end.faults, 1);
     EXPECT_EQ(m_end.firstFault, 14U);
@@ -238,8 +239,8 @@ TEST_F(Drawing, ACutEndsAReceipt)
 
 TEST_F(Drawing, SpeaksPortugueseToWhoReadsIt)
 {
-    draw(bytes("1D 28 6B 03 00 31 43 10 1D 28 6B 63 00 31 50 30") + std::string(96, 'q') +
-             bytes("1D 28 6B 03 00 31 51 30 1B 70 30 64 64 'fim'"),
+    draw(hex("1D 28 6B 03 00 31 43 10 1D 28 6B 63 00 31 50 30") + std::string(96, 'q') +
+             hex("1D 28 6B 03 00 31 51 30 1B 70 30 64 64 'fim'"),
          "VANTA", {}, Language::Portuguese);
     const std::string tooWide =
         "QR Code não impresso: tem 592 pontos de largura, e há lugar para 576";
@@ -263,7 +264,7 @@ TEST_F(Drawing, ALongReceiptIsSplitBetweenLines)
         items += line + std::string(123 - line.size(), ' ') + "25.90";
     }
     const std::clock_t began = std::clock();
-    draw(bytes("1B 40 1B 21 01 1B 74 10") + items + "\n");
+    draw(hex("1B 40 1B 21 01 1B 74 10") + items + "\n");
     EXPECT_LT(static_cast<double>(std::clock() - began) / CLOCKS_PER_SEC, 2.0 * Q7_SLOWNESS)
         << "seconds of processor time";
     int rows = 0;
@@ -278,13 +279,11 @@ TEST_F(Drawing, HostileStreamsDoNoHarm)
     for (unsigned seed = 1; seed <= 12; ++seed) {
         // The tail puts an end to whatever the noise has begun.
         const std::string stream = hostileStream(seed, 20'000, everyStyle()) +
-                                   std::string(70'000, '\0') + bytes("1B 40 'still alive' 0A");
+                                   std::string(70'000, '\0') + hex("1B 40 'still alive' 0A");
         draw(stream, seed % 2 == 0 ? "VANTA" : "VOLTA", testGraphic());
         const auto kept =
             std::count_if(m_wrote.begin(), m_wrote.end(), [](const std::string& path) {
-                std::ifstream text(path, std::ios::binary);
-                return std::string(std::istreambuf_iterator<char>(text), {})
-                           .find("still alive\n") != std::string::npos;
+                return q7test::fileContent(path).find("still alive\n") != std::string::npos;
             });
         EXPECT_EQ(kept, 1) << "seed " << seed;
     }

@@ -1,14 +1,15 @@
-#include "bytes.h"
 #include "code_table.h"
 #include "command_list.h"
 #include "command_log.h"
 #include "command_parser.h"
+#include "streams.h"
 
 #include <gtest/gtest.h>
 
 #include <sstream>
 
 using namespace virtual_printer;
+using q7test::hex;
 
 namespace
 {
@@ -22,7 +23,7 @@ const std::string many(300, 'A');
 TEST_P(Parsing, FindsEveryCommand)
 {
     Lines names;
-    for (const Command& command : parseAll(bytes(GetParam().stream))) {
+    for (const Command& command : parseAll(hex(GetParam().stream))) {
         names.push_back(nameWithArguments(command));
     }
     EXPECT_EQ(names, GetParam().gives);
@@ -58,7 +59,7 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(Parser, ListsOffsetBytesNameAndData)
 {
     const std::vector<Command> commands =
-        parseAll(bytes("'ab' 1B 61 01 1D 28 6B 05 00 31 50 30 'ab'"));
+        parseAll(hex("'ab' 1B 61 01 1D 28 6B 05 00 31 50 30 'ab'"));
     EXPECT_EQ(listLine(commands[1]), "       2  1B 61 01" + std::string(26, ' ') + "ESC a 1" +
                                          std::string(19, ' ') + "alignment");
     EXPECT_EQ(listLine(commands[2]), "       5  1D 28 6B 05 00 31 50 30" + std::string(11, ' ') +

@@ -1,10 +1,11 @@
-#include "bytes.h"
 #include "command_parser.h"
+#include "streams.h"
 #include "typesetter.h"
 
 #include <gtest/gtest.h>
 
 using namespace virtual_printer;
+using q7test::hex;
 
 namespace
 {
@@ -25,7 +26,7 @@ struct BlackGlyphs : Glyphs {
     Bitmap blank;
 };
 
-/** What a stream, in the notation of bytes(), prints. */
+/** What a stream, in the notation of hex(), prints. */
 struct Printed : Paper {
     explicit Printed(const std::string& stream, const char* model = "VANTA",
                      const Graphics& graphics = {})
@@ -36,10 +37,10 @@ struct Printed : Paper {
                                   const std::string line = std::to_string(offset) + ">> ";
                                   events.push_back(line + std::string(remark));
                               });
-        for (const Command& command : parseAll(bytes(stream))) {
+        for (const Command& command : parseAll(hex(stream))) {
             typesetter.command(command);
         }
-        typesetter.finish(bytes(stream).size());
+        typesetter.finish(hex(stream).size());
     }
 
     void print(const Bitmap& dots, int advanceDots, std::string_view read) override

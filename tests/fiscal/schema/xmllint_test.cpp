@@ -2,25 +2,18 @@
 #include "compiled_schema.h"
 #include "program.h"
 #include "temporary_folder.h"
+#include "test_files.h"
 #include "xml_mutations.h"
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
 #include <gtest/gtest.h>
-#include <iterator>
 #include <set>
 
 namespace
 {
 
 namespace fs = std::filesystem;
-
-std::string fileContent(const fs::path& path)
-{
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
 
 // The files that conform, by xmllint.
 std::set<std::string> conformingByXmllint(const fs::path& schema,
@@ -57,10 +50,10 @@ void expectVerdictsOfXmllint(const fs::path& schemaFile, const std::vector<std::
     const q7::CompiledSchema schema(schemaFile);
     EXPECT_TRUE(schema.faults().empty());
     for (const std::string& file : files) {
-        const q7::SchemaFaults faults = schema.check(fileContent(file));
+        const q7::SchemaFaults faults = schema.check(q7test::fileContent(file));
         EXPECT_EQ(faults.empty(), conforming.count(file) == 1)
             << (faults.empty() ? "" : faults.front().description) << '\n'
-            << fileContent(file);
+            << q7test::fileContent(file);
     }
     // There are enough of both.
     EXPECT_GT(conforming.size(), files.size() / 10);
@@ -99,24 +92,25 @@ TEST(Xmllint, AgreesOnMutatedDocuments)
 
 TEST(Xmllint, AgreesOnTheSamplesAndTheirMutations)
 {
-    const fs::path data = Q7_SAMPLE_DATA;
-    if (!fs::exists(data / "xsd"))
-        GTEST_SKIP() << "no official schemas in " << data / "xsd";
+    const fs::path schemas = q7test::sampleData("xsd/NFe/4.00");
+    if (schemas.empty())
+        GTEST_SKIP() << "no official schemas in the sample data";
     std::vector<std::string> notes;
     std::vector<std::string> bareNotes;
     for (const char* folder : {"nfce", "nfce-current"})
-        for (const fs::directory_entry& entry : fs::directory_iterator(data / folder)) {
-            const std::string document = fileContent(entry.path());
+        for (const fs::directory_entry& entry :
+             fs::directory_iterator(q7test::sampleData(folder))) {
+            const std::string document = q7test::fileContent(entry.path());
             (document.find("<nfeProc") == std::string::npos ? bareNotes : notes)
                 .push_back(document);
         }
     for (std::vector<std::string>* documents : {&notes, &bareNotes})
         std::sort(documents->begin(), documents->end()); // the same order everywhere
-    expectVerdictsOfXmllint(data / "xsd/NFe/4.00/procNFe_v4.00.xsd", notes, 20);
-    expectVerdictsOfXmllint(data / "xsd/NFe/4.00/nfe_v4.00.xsd", bareNotes, 20);
+    expectVerdictsOfXmllint(schemas / "procNFe_v4.00.xsd", notes, 20);
+    expectVerdictsOfXmllint(schemas / "nfe_v4.00.xsd", bareNotes, 20);
     // The other way round none conforms.
     for (const std::string& note : notes)
-        EXPECT_FALSE(q7::CompiledSchema(data / "xsd/NFe/4.00/nfe_v4.00.xsd").check(note).empty());
+        EXPECT_FALSE(q7::CompiledSchema(schemas / "nfe_v4.00.xsd").check(note).empty());
 }
 
 } // namespace

@@ -1,13 +1,12 @@
 // Documents against schemas: hand-written ones here, the official ones where they are at hand.
 #include "q7_impressora.h"
 #include "temporary_folder.h"
+#include "test_files.h"
 #include "xsd_validator.h"
 
 #include <QString>
 #include <filesystem>
-#include <fstream>
 #include <gtest/gtest.h>
-#include <iterator>
 #include <libxml/parser.h>
 #include <malloc.h>
 #include <sys/stat.h>
@@ -389,23 +388,21 @@ TEST(XsdValidator, LeavesTheMemoryWhereItWas)
     EXPECT_LT(validations(2000), before + 20'000); // ten bytes for each: what malloc keeps at hand
 }
 
-QByteArray officialNote(const char* name)
-{
-    std::ifstream file(std::string(Q7_SAMPLE_DATA "/nfce/") + name, std::ios::binary);
-    return QByteArray::fromStdString({std::istreambuf_iterator<char>(file), {}});
-}
-
 TEST(XsdValidator, TakesTheSampleNotesForWhatTheyAre)
 {
-    if (!std::filesystem::exists(Q7_SAMPLE_DATA "/xsd"))
-        GTEST_SKIP() << "no official schemas in " Q7_SAMPLE_DATA "/xsd";
+    const std::string folder = q7test::sampleData("");
+    if (q7test::sampleData("xsd").empty())
+        GTEST_SKIP() << "no official schemas in the sample data";
     Schemas schemas;
-    schemas.useFolder(Q7_SAMPLE_DATA "/");
-    const QByteArray note = officialNote("homologacao.xml");
+    schemas.useFolder(folder);
+    const auto sample = [](const char* name) {
+        return QByteArray::fromStdString(q7test::fileContent(q7test::sampleData(name)));
+    };
+    const QByteArray note = sample("nfce/homologacao.xml");
     EXPECT_EQ(validateXsd(note, 4, 1), 0);
     EXPECT_EQ(validateXsd(note, 4, 0), -71); // the authorised form is no bare note
     EXPECT_EQ(validateXsd(note, 3, 1), -71);
-    EXPECT_EQ(validateXsd(officialNote("contingencia-offline.xml"), 4, 0), 0);
+    EXPECT_EQ(validateXsd(sample("nfce/contingencia-offline.xml"), 4, 0), 0);
 
     const int first = note.indexOf("<det ");
     const int second = note.indexOf("<det ", first + 1);

@@ -1,20 +1,12 @@
 // Whole SAT extracts, byte for byte, as an application prints them.
 
 #include "export_fixture.h"
-
-#include <fstream>
-#include <iterator>
+#include "test_files.h"
 
 namespace
 {
 
 using namespace q7test;
-
-std::string document(const std::string& name)
-{
-    std::ifstream file(std::string(Q7_EXAMPLE_DOCUMENTS) + '/' + name + ".xml");
-    return {std::istreambuf_iterator<char>(file), {}};
-}
 
 std::string signatureOf(const std::string& sale)
 {
@@ -39,11 +31,11 @@ TEST_P(SatExtract, IsPrintedByteForByte)
     PrinterScript printer;
     printer.model = extract.model;
     openTcp(printer);
-    const std::string xml = document(extract.document);
+    const std::string xml = exampleDocument(extract.document);
     if (std::string(extract.document) == "cancelamento")
-        EXPECT_EQ(0, ImprimeXMLCancelamentoSAT(xml.c_str(),
-                                               signatureOf(document("venda-simples")).c_str(),
-                                               extract.options));
+        EXPECT_EQ(0, ImprimeXMLCancelamentoSAT(
+                         xml.c_str(), signatureOf(exampleDocument("venda-simples")).c_str(),
+                         extract.options));
     else
         EXPECT_EQ(0, ImprimeXMLSAT(xml.c_str(), extract.options));
     EXPECT_TRUE(sameAsGolden(std::string("sat/") + extract.document + '.' + extract.goldenModel +
@@ -82,7 +74,7 @@ TEST_F(SatExtractFailure, SaleThatCannotBeReadPrintsItsLabels)
 TEST_F(SatExtractFailure, CancellationIsRefusedBeforeAnythingIsPrinted)
 {
     openTcp();
-    const std::string xml = document("cancelamento");
+    const std::string xml = exampleDocument("cancelamento");
     std::string accents; // 344 characters, twice as many bytes
     for (int i = 0; i < 344; ++i)
         accents += "ç";

@@ -1,31 +1,13 @@
-// Printer bytes written readably.
+// Streams of printer bytes: tables of what they give, and hostile ones.
 #pragma once
+
+#include "bytes.h"
 
 #include <ostream>
 #include <random>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
-
-/** "1B 40 'abc' 0A": hexadecimal pairs, and text between single quotes. */
-inline std::string bytes(std::string_view notation)
-{
-    std::string made;
-    for (std::size_t at = 0; at < notation.size();) {
-        if (notation[at] == ' ') {
-            ++at;
-        } else if (notation[at] == '\'') {
-            const std::size_t end = notation.find('\'', at + 1);
-            made.append(notation.substr(at + 1, end - at - 1));
-            at = end + 1;
-        } else {
-            made += static_cast<char>(std::stoi(std::string(notation.substr(at, 2)), nullptr, 16));
-            at += 2;
-        }
-    }
-    return made;
-}
 
 using Lines = std::vector<std::string>;
 
@@ -45,7 +27,7 @@ inline std::string hostileStream(unsigned seed, std::size_t size, std::string_vi
 {
     std::mt19937 random(seed);
     const std::string leads =
-        bytes("1B 1D 10 1C 0A 28 6B 4C 00 30 31 FF 40 41 57 54 0C 61 24 76 49 7E");
+        q7test::hex("1B 1D 10 1C 0A 28 6B 4C 00 30 31 FF 40 41 57 54 0C 61 24 76 49 7E");
     std::string stream;
     while (stream.size() < size) {
         const auto value = static_cast<unsigned>(random());

@@ -57,7 +57,8 @@ constexpr std::size_t mostWaiting = 64 << 20;
 constexpr std::size_t mostInput = 65536;
 // An input that never dries up ends a look at it.
 constexpr int readyRounds = 64;
-// Of a write that is waited for: a slow printer's progress is to be seen.
+// Of one write: a slow printer's progress is to be seen, and Windows takes what a write has, whatever
+// its size, once its buffer has any room.
 constexpr std::size_t writeSize = 8192;
 
 /** The one model that speaks another language when asked for its name. */
@@ -125,17 +126,20 @@ int PrinterConnection::open(const QString& address, const QString& model, int nu
         return m_kind; // nothing is opened; a kind that was never set reads as success
     m_forkCount = forkCount();
     m_link = std::make_unique<Link>();
-    int result = m_kind == UsbConnection      ? openUsbPrinter(model)
+    int result = Q7_ERR_FAILED;
+    try {
+        result = m_kind == UsbConnection      ? openUsbPrinter(model)
                  : m_kind == SerialConnection ? openSerialPort(address, number)
                                               : openNetwork(address, number);
-    if (!m_link->endpoint) {
-        m_link.reset();
-        return result;
+        if (m_link->endpoint)
+            takeInput();                                 // an earlier program's answers
+        if (m_link->endpoint && m_kind != UsbConnection) // whose identifiers have told the model
+            result = checkModel(model);
+    } catch (...) {
+        closeLink();
+        throw;
     }
-    takeInput();                 // an earlier program's answers
-    if (m_kind != UsbConnection) // whose identifiers have told the model already
-        result = checkModel(model);
-    if (result != Q7_OK)
+    if (result != Q7_OK || !m_link->endpoint)
         closeLink();
     return result;
 }
@@ -331,7 +335,8 @@ void PrinterConnection::write()
     Link& link = *m_link;
     std::error_code error;
     while (!link.isWriting && !m_queue.isEmpty() && !error && isOpen()) {
-        const std::size_t count = link.endpoint->writeNow(m_queue.front(), error);
+        const std::size_t count =
+            link.endpoint->writeNow(m_queue.front().substr(0, writeSize), error);
         m_queue.drop(count);
         m_taken += count;
         if (error)
@@ -347,9 +352,9 @@ void PrinterConnection::startWriting()
     // Over USB all at once: that the printer takes it shows when it has taken it whole.
     const std::size_t size = m_kind == UsbConnection ? std::string::npos : writeSize;
     link.output = m_queue.front().substr(0, size);
-    link.isWriting = true;
     link.endpoint->startWrite(
         link.output, [this](std::error_code error, std::size_t count) { wrote(error, count); });
+    link.isWriting = true;
 }
 
 void PrinterConnection::wrote(std::error_code error, std::size_t count)
@@ -409,10 +414,10 @@ void PrinterConnection::startReading()
     Link& link = *m_link;
     if (link.isReading || !isOpen() || !hasPassed(m_nextRead))
         return;
-    link.isReading = true;
     link.endpoint->startRead(
         link.input.data(), link.input.size(),
         [this](std::error_code error, std::size_t count) { read(error, count); });
+    link.isReading = true;
 }
 
 void PrinterConnection::read(std::error_code error, std::size_t count)
@@ -460,7 +465,8 @@ int PrinterConnection::close()
         m_link->endpoint->endSending();
         waitForThePrintersEnd();
     }
-    return closeLink().value();
+    const std::error_code error = closeLink();
+    return m_kind == UsbConnection ? error.value() : Q7_OK;
 }
 
 // Until everything has gone down to the printer, or nothing has for a while.
@@ -507,8 +513,12 @@ void PrinterConnection::waitForThePrintersEnd()
 // What a driver that never lets go of a cancelled operation may still write to is left behind.
 std::error_code PrinterConnection::closeLink()
 {
-    m_isLost = true; // nothing is started any more
     Link& link = *m_link;
+    if (!link.endpoint) {
+        m_link.reset();
+        return {};
+    }
+    m_isLost = true; // nothing is started any more
     link.endpoint->cancelAll();
     for (const Deadline end = after(cancelLimit);
          (link.isReading || link.isWriting) && runOne(end);)

@@ -11,8 +11,7 @@ namespace
 // before any of Asio's, tells it to leave that to us.
 __attribute__((init_priority(101))) const asio::detail::winsock_init<>::manual winsockIsOurs;
 
-// Winsock takes what one write has, whatever its size, once its buffer has any room: a small one
-// shows how a slow printer moves.
+// A small one shows how a slow printer moves.
 constexpr int sendBufferBytes = 8192;
 
 } // namespace

@@ -217,7 +217,10 @@ TEST_F(Links, APrinterNeverReads)
         const FakePrinter printer(script, line);
         ASSERT_EQ(0, openOn(printer));
         EXPECT_LT(durationOf([] { EXPECT_EQ(1500, printTheRest()); }), seconds(3));
+        data.write("log_q7.txt", "");
         EXPECT_LT(durationOf([] { EXPECT_EQ(0, FechaConexaoImpressora()); }), seconds(8));
+        EXPECT_EQ(0U, data.takeLog().at(1).find("INFO FECHAMENTO SEM ENTREGAR "));
+        data.stopLog();
         opensAndPrints();
     }
 }

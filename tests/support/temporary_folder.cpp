@@ -48,8 +48,9 @@ DataFolder::~DataFolder()
     unsetenv("Q7_DATA_PATH");
 }
 
-void DataFolder::stopLog() const
+void DataFolder::stopLog()
 {
+    m_taken = 0;
     std::filesystem::remove(path() + "/log_q7.txt");
 }
 

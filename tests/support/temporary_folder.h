@@ -38,7 +38,7 @@ public:
     std::vector<std::string> takeLog();
 
     /** Takes the log file away, which ends the log. */
-    void stopLog() const;
+    void stopLog();
 
 private:
     std::size_t m_taken = 0;

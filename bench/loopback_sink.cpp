@@ -33,7 +33,6 @@ void LoopbackSink::serve()
             constexpr char query[] = {0x1D, 0x49, 0x43}; // GS I 67
             if (count >= 3 && std::memcmp(buffer, query, sizeof query) == 0)
                 ::send(link, "VANTA", 6, MSG_NOSIGNAL);
-            m_received += static_cast<std::size_t>(count);
         }
     }
 }

@@ -2,8 +2,6 @@
 // opening asks.
 #pragma once
 
-#include <atomic>
-#include <cstddef>
 #include <thread>
 
 class LoopbackSink
@@ -15,13 +13,11 @@ public:
     LoopbackSink& operator=(const LoopbackSink&) = delete;
 
     int port() const { return m_port; }
-    std::size_t received() const { return m_received; }
 
 private:
     void serve();
 
     int m_listener;
     int m_port = 0;
-    std::atomic<std::size_t> m_received{0};
     std::thread m_thread;
 };

@@ -35,8 +35,6 @@ public:
     /** Cuts the area to the page; false when nothing of it lies there. */
     bool setArea(const Area& area);
     void setDirection(Direction direction) { m_direction = direction; }
-    Direction direction() const { return m_direction; }
-    int areaLeft() const { return m_area.x; }
 
     /** Length of a line in the area, and room for lines, as the direction sees them. */
     int lineDots() const { return sideways() ? m_area.height : m_area.width; }

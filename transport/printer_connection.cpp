@@ -114,8 +114,12 @@ PrinterConnection::PrinterConnection(std::function<UsbSearch(const QString&)> us
 
 PrinterConnection::~PrinterConnection()
 {
-    if (m_link && stopHandingOver())
-        closeLink();
+    try {
+        if (m_link && stopHandingOver())
+            closeLink();
+    } catch (...) {
+        // No memory: the system closes what the process leaves.
+    }
 }
 
 // ---------------------------------------------------------------- opening

@@ -60,6 +60,8 @@ constexpr int readyRounds = 64;
 // Of one write: a slow printer's progress is to be seen, and Windows takes what a write has, whatever
 // its size, once its buffer has any room.
 constexpr std::size_t writeSize = 8192;
+// A second of a usual serial line: not each system tells how far it is with a write.
+constexpr std::size_t serialWriteSize = 1024;
 
 /** The one model that speaks another language when asked for its name. */
 constexpr char tesmoName[] = "TESMO";
@@ -354,7 +356,9 @@ void PrinterConnection::startWriting()
 {
     Link& link = *m_link;
     // Over USB all at once: that the printer takes it shows when it has taken it whole.
-    const std::size_t size = m_kind == UsbConnection ? std::string::npos : writeSize;
+    const std::size_t size = m_kind == UsbConnection      ? std::string::npos
+                             : m_kind == SerialConnection ? serialWriteSize
+                                                          : writeSize;
     link.output = m_queue.front().substr(0, size);
     link.endpoint->startWrite(
         link.output, [this](std::error_code error, std::size_t count) { wrote(error, count); });

@@ -1,5 +1,6 @@
 #include "printer_session.h"
 
+#include "fiscal_settings.h"
 #include "log.h"
 #include "version.h"
 
@@ -21,6 +22,7 @@ PrinterSession& session()
 PrinterSession::PrinterSession()
 {
     modelTable();
+    fiscalLayout();
     writeLog(LogKind::Information, QString("Biblioteca carregada ") + libraryVersion);
 }
 

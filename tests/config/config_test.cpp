@@ -2,6 +2,7 @@
 
 #include "config_file.h"
 #include "data_folder.h"
+#include "fiscal_settings.h"
 
 #include "temporary_folder.h"
 
@@ -115,6 +116,52 @@ TEST(ConfigFile, ThatCannotBeMadeIsReported)
 {
     setDataPath("/proc/");
     EXPECT_FALSE(q7::ensureConfigFile());
+}
+
+q7::FiscalLayout layoutIn(const DataFolder& data, const std::string& name)
+{
+    return q7::fiscalLayoutIn(q7::IniFile(data.path() + '/' + name));
+}
+
+TEST(FiscalFile, ChoosesTheLayout)
+{
+    const struct {
+        const char* content;
+        q7::FiscalLayout layout;
+        std::vector<std::string> log;
+    } rows[] = {
+        {"[nfce]\nleiaute=6.0\n",
+         q7::FiscalLayout::Version6_0,
+         {"INFO q7_fiscal.ini: nfce/leiaute EM VIGOR: 6.0"}},
+        {"; comentário\r\n\r\n[outro]\r\nleiaute=5\r\n[nfce]\r\nleiaute = 6.0\r\n",
+         q7::FiscalLayout::Version6_0,
+         {"INFO q7_fiscal.ini: nfce/leiaute EM VIGOR: 6.0"}},
+        {"[nfce]\nleiaute=original\n",
+         q7::FiscalLayout::Original,
+         {"INFO q7_fiscal.ini: nfce/leiaute EM VIGOR: original"}},
+        {"", q7::FiscalLayout::Original, {"INFO q7_fiscal.ini: nfce/leiaute EM VIGOR: original"}},
+        {"[nfce]\nleiaute=6\n",
+         q7::FiscalLayout::Original,
+         {"INFO q7_fiscal.ini: nfce/leiaute IGNORADO: 6",
+          "INFO q7_fiscal.ini: nfce/leiaute EM VIGOR: original"}},
+        {"[nfce]\nleiaute=\n",
+         q7::FiscalLayout::Original,
+         {"INFO q7_fiscal.ini: nfce/leiaute IGNORADO: ",
+          "INFO q7_fiscal.ini: nfce/leiaute EM VIGOR: original"}},
+    };
+    DataFolder data;
+    for (const auto& row : rows) {
+        data.write("site.ini", row.content);
+        EXPECT_EQ(layoutIn(data, "site.ini"), row.layout) << row.content;
+        EXPECT_EQ(data.takeLog(), row.log);
+    }
+    EXPECT_EQ(layoutIn(data, "missing.ini"), q7::FiscalLayout::Original);
+    EXPECT_EQ(data.takeLog(), std::vector<std::string>());
+    // A folder in the place of the file.
+    EXPECT_EQ(layoutIn(data, ""), q7::FiscalLayout::Original);
+    EXPECT_EQ(data.takeLog(),
+              (std::vector<std::string>{"INFO q7_fiscal.ini: NAO PODE SER LIDO",
+                                        "INFO q7_fiscal.ini: nfce/leiaute EM VIGOR: original"}));
 }
 
 } // namespace

@@ -73,6 +73,17 @@ TEST_F(Host, LoadIsLogged)
     EXPECT_EQ(std::vector<std::string>{"INFO Biblioteca carregada 01.01.00"}, data.takeLog());
 }
 
+TEST_F(Host, LoadReadsTheSitesLayout)
+{
+    data.write("log_q7.txt", "");
+    data.write("q7_fiscal.ini", "[nfce]\nleiaute=7.0\n");
+    runProgram({Q7_HOST_C});
+    EXPECT_EQ((std::vector<std::string>{"INFO q7_fiscal.ini: nfce/leiaute IGNORADO: 7.0",
+                                        "INFO q7_fiscal.ini: nfce/leiaute EM VIGOR: original",
+                                        "INFO Biblioteca carregada 01.01.00"}),
+              data.takeLog());
+}
+
 TEST_F(Host, KeepsItsMemory)
 {
 #ifdef Q7_SANITIZE

@@ -1,5 +1,6 @@
 #include "formatters.h"
 
+#include <QDateTime>
 #include <cmath>
 
 namespace q7
@@ -18,6 +19,18 @@ QString formatDateTimeBR(QString dateTime)
     text.insert(13, QLatin1Char(':'));
     text.insert(16, QLatin1Char(':'));
     return text;
+}
+
+QString inOffsetOf(const QString& dateTime, const QString& reference)
+{
+    const QDateTime time = QDateTime::fromString(dateTime, Qt::ISODate);
+    const QDateTime other = QDateTime::fromString(reference, Qt::ISODate);
+    const auto hasOffset = [](const QDateTime& date) {
+        return date.isValid() && date.timeSpec() != Qt::LocalTime;
+    };
+    return hasOffset(time) && hasOffset(other)
+               ? time.toOffsetFromUtc(other.offsetFromUtc()).toString("yyyy-MM-ddThh:mm:ss")
+               : dateTime;
 }
 
 QString formatDecimalBR(QString amount)

@@ -10,6 +10,10 @@ namespace q7
  *  shorter text keeps the separators, with blanks where they would stand beyond its end. */
 QString formatDateTimeBR(QString dateTime);
 
+/** The same date in the offset from UTC of another: of "2024-03-14T21:42:09+00:00" and a reference in
+ *  "-03:00" that is "2024-03-14T18:42:09". Unchanged where one of the two has no offset. */
+QString inOffsetOf(const QString& dateTime, const QString& reference);
+
 /** "1.234,56" of "1234.56". Counts on exactly two decimals, and makes at most two thousands
  *  separators: "1234567890.00" gives "1234.567.890,00". */
 QString formatDecimalBR(QString amount);

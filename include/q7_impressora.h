@@ -47,8 +47,14 @@
  *     biblioteca é carregada. Os da própria biblioteca são fictícios: sem este arquivo nenhuma
  *     impressora USB é encontrada. Um grupo por modelo, com vendor_id e product_id de um a quatro
  *     algarismos hexadecimais.
+ *   - "q7_fiscal.ini": as regras dos cupons fiscais, lidas uma vez, quando a biblioteca é carregada.
+ *     Sem o arquivo, ou com leiaute=original no grupo [nfce], tudo se imprime como sempre, até o
+ *     último byte. Com leiaute=6.0 a NFC-e segue o manual do DANFE NFC-e na versão 6.0: nomes de
+ *     todos os meios de pagamento, PIX entre eles, QR Code de qualquer tamanho, nota autorizada sem
+ *     aviso de pendência, consumidor estrangeiro, CNPJ com letras, DANFE Simplificado Tipo 2. Outro
+ *     valor conta como original. O log diz o valor em vigor.
  *
- *  A biblioteca não cria nem um nem outro, e não usa nenhum outro arquivo.
+ *  A biblioteca não cria nenhum deles, e não usa nenhum outro arquivo.
  *
  *  Um cupom em quatro chamadas:
  *  \code
@@ -225,6 +231,15 @@ enum Q7Result {
     /** Opções da NFC-e acima de 65535. Causas: argumentos fora de ordem. O que fazer: some
      *  constantes de Q7NfceOption. */
     Q7_ERR_NFCE_OPTIONS = -104,
+    /** NF-e (modelo 55) que não é um DANFE Simplificado Tipo 2. Só com o leiaute 6.0. Causas: foi
+     *  passada uma NF-e comum, que se imprime em folha A4. O que fazer: passe uma NFC-e (modelo 65)
+     *  ou uma NF-e com tpImp 6. */
+    Q7_ERR_NFCE_MODEL = -105,
+    /** Nota sem QR Code. Só com o leiaute 6.0. Causas: falta o elemento qrCode e não há com que
+     *  formá-lo (a chave, o tpAmb, o endereço do estado ou, em contingência, o CSC e o
+     *  DigestValue); ou o texto é longo demais para um QR Code desta impressora. O que fazer: passe
+     *  o XML com o grupo infNFeSupl inteiro; em contingência sem ele, também o CSC. */
+    Q7_ERR_NFCE_QR = -106,
     /** Quantidade de sinais sonoros acima de 63. Causas: valor fora da faixa ou negativo. O que
      *  fazer: passe de 0 a 63. */
     Q7_ERR_BUZZER_COUNT = -111,
@@ -422,10 +437,10 @@ enum Q7CfeOption {
 
 /** Opções da NFC-e (ImprimeXMLNFCe), que se somam. */
 enum Q7NfceOption {
-    Q7_NFCE_NO_ITEMS = 0x01,      /**< sem os itens */
-    Q7_NFCE_GTIN = 0x02,          /**< coluna larga de código, com o GTIN */
-    Q7_NFCE_LOGO = 0x08,          /**< cabeçalho ao lado da imagem "00" gravada na impressora */
-    Q7_NFCE_TEST = 0x10,          /**< aviso de ambiente de homologação */
+    Q7_NFCE_NO_ITEMS = 0x01, /**< sem os itens */
+    Q7_NFCE_GTIN = 0x02,     /**< coluna larga de código, com o GTIN */
+    Q7_NFCE_LOGO = 0x08,     /**< cabeçalho ao lado da imagem "00" gravada na impressora */
+    Q7_NFCE_TEST = 0x10,     /**< aviso de ambiente de homologação; o leiaute 6.0 segue o tpAmb */
     Q7_NFCE_SEPARATORS = 0x40,    /**< linhas separadoras entre as divisões */
     Q7_NFCE_ISSUER_IE = 0x80,     /**< inscrição estadual do emitente no cabeçalho */
     Q7_NFCE_ITEM_NUMBERS = 0x100, /**< número de cada item */
@@ -854,7 +869,7 @@ Q7_API int Q7_CALL ImprimeXMLCancelamentoSAT(const char* dados, const char* assi
  *  \param param soma de valores de Q7NfceOption, no máximo 65535.
  *  \return 0 ou um código.
  *  \erros Q7_ERR_NOT_OPEN Q7_ERR_NFCE_OPTIONS Q7_ERR_NFCE_NO_VERSION Q7_ERR_NFCE_VERSION
- *    Q7_ERR_NFCE_EMISSION
+ *    Q7_ERR_NFCE_EMISSION Q7_ERR_NFCE_MODEL Q7_ERR_NFCE_QR
  *  \efeito na hora.
  *  \escpos os das funções de texto, de QR Code e do modo página.
  *  \exemplo const char* xml = "<NFe><infNFe versao=\"4.00\"/></NFe>";

@@ -74,6 +74,10 @@ static const char* q7_mensagem(int codigo)
         return "Tipo de emissão (tpEmis) ausente ou 0. O que fazer: passe o XML inteiro, com o grupo infNFeSupl.";
     case Q7_ERR_NFCE_OPTIONS:
         return "Opções da NFC-e acima de 65535. O que fazer: some constantes de Q7NfceOption.";
+    case Q7_ERR_NFCE_MODEL:
+        return "NF-e (modelo 55) que não é um DANFE Simplificado Tipo 2. Só com o leiaute 6.0. O que fazer: passe uma NFC-e (modelo 65) ou uma NF-e com tpImp 6.";
+    case Q7_ERR_NFCE_QR:
+        return "Nota sem QR Code. Só com o leiaute 6.0. O que fazer: passe o XML com o grupo infNFeSupl inteiro; em contingência sem ele, também o CSC.";
     case Q7_ERR_BUZZER_COUNT:
         return "Quantidade de sinais sonoros acima de 63. O que fazer: passe de 0 a 63.";
     case Q7_ERR_BUZZER_TIME:

@@ -82,6 +82,11 @@ public static class Q7Impressora
     public const int Q7_ERR_NFCE_EMISSION = -103;
     /// <summary>Opções da NFC-e acima de 65535.</summary>
     public const int Q7_ERR_NFCE_OPTIONS = -104;
+    /// <summary>NF-e (modelo 55) que não é um DANFE Simplificado Tipo 2. Só com o leiaute
+    /// 6.0.</summary>
+    public const int Q7_ERR_NFCE_MODEL = -105;
+    /// <summary>Nota sem QR Code. Só com o leiaute 6.0.</summary>
+    public const int Q7_ERR_NFCE_QR = -106;
     /// <summary>Quantidade de sinais sonoros acima de 63.</summary>
     public const int Q7_ERR_BUZZER_COUNT = -111;
     /// <summary>Os dois tempos do sinal sonoro acima de 25.</summary>
@@ -319,7 +324,7 @@ public static class Q7Impressora
     public const int Q7_NFCE_GTIN = 2;
     /// <summary>cabeçalho ao lado da imagem "00" gravada na impressora.</summary>
     public const int Q7_NFCE_LOGO = 8;
-    /// <summary>aviso de ambiente de homologação.</summary>
+    /// <summary>aviso de ambiente de homologação; o leiaute 6.0 segue o tpAmb.</summary>
     public const int Q7_NFCE_TEST = 16;
     /// <summary>linhas separadoras entre as divisões.</summary>
     public const int Q7_NFCE_SEPARATORS = 64;
@@ -405,6 +410,10 @@ public static class Q7Impressora
                 return "Tipo de emissão (tpEmis) ausente ou 0. O que fazer: passe o XML inteiro, com o grupo infNFeSupl.";
             case Q7_ERR_NFCE_OPTIONS:
                 return "Opções da NFC-e acima de 65535. O que fazer: some constantes de Q7NfceOption.";
+            case Q7_ERR_NFCE_MODEL:
+                return "NF-e (modelo 55) que não é um DANFE Simplificado Tipo 2. Só com o leiaute 6.0. O que fazer: passe uma NFC-e (modelo 65) ou uma NF-e com tpImp 6.";
+            case Q7_ERR_NFCE_QR:
+                return "Nota sem QR Code. Só com o leiaute 6.0. O que fazer: passe o XML com o grupo infNFeSupl inteiro; em contingência sem ele, também o CSC.";
             case Q7_ERR_BUZZER_COUNT:
                 return "Quantidade de sinais sonoros acima de 63. O que fazer: passe de 0 a 63.";
             case Q7_ERR_BUZZER_TIME:
@@ -905,7 +914,7 @@ public static class Q7Impressora
     /// <remarks>
     /// <para>Uma nota em contingência sai em duas vias, com um corte entre elas.</para>
     /// <para>Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_NFCE_OPTIONS, Q7_ERR_NFCE_NO_VERSION,
-    /// Q7_ERR_NFCE_VERSION, Q7_ERR_NFCE_EMISSION.</para>
+    /// Q7_ERR_NFCE_VERSION, Q7_ERR_NFCE_EMISSION, Q7_ERR_NFCE_MODEL, Q7_ERR_NFCE_QR.</para>
     /// <para>Efeito: na hora.</para>
     /// <para>ESC/POS: os das funções de texto, de QR Code e do modo página.</para>
     /// </remarks>

@@ -57,6 +57,8 @@ const
   Q7_ERR_NFCE_NO_VERSION = -102; // Não é uma NFC-e, ou é uma sem o atributo versao
   Q7_ERR_NFCE_EMISSION = -103; // Tipo de emissão (tpEmis) ausente ou 0
   Q7_ERR_NFCE_OPTIONS = -104; // Opções da NFC-e acima de 65535
+  Q7_ERR_NFCE_MODEL = -105; // NF-e (modelo 55) que não é um DANFE Simplificado Tipo 2. Só com o leiaute 6.0
+  Q7_ERR_NFCE_QR = -106; // Nota sem QR Code. Só com o leiaute 6.0
   Q7_ERR_BUZZER_COUNT = -111; // Quantidade de sinais sonoros acima de 63
   Q7_ERR_BUZZER_TIME = -112; // Os dois tempos do sinal sonoro acima de 25
   Q7_ERR_DRAWER_PIN = -121; // Pino da gaveta acima de 1
@@ -194,7 +196,7 @@ const
   Q7_NFCE_NO_ITEMS = 1; // sem os itens
   Q7_NFCE_GTIN = 2; // coluna larga de código, com o GTIN
   Q7_NFCE_LOGO = 8; // cabeçalho ao lado da imagem "00" gravada na impressora
-  Q7_NFCE_TEST = 16; // aviso de ambiente de homologação
+  Q7_NFCE_TEST = 16; // aviso de ambiente de homologação; o leiaute 6.0 segue o tpAmb
   Q7_NFCE_SEPARATORS = 64; // linhas separadoras entre as divisões
   Q7_NFCE_ISSUER_IE = 128; // inscrição estadual do emitente no cabeçalho
   Q7_NFCE_ITEM_NUMBERS = 256; // número de cada item
@@ -509,7 +511,7 @@ function ImprimeXMLCancelamentoSAT(const dados: TQ7Texto; const assinaturaQRCODE
 // Imprime o DANFE de uma NFC-e; não corta no fim.
 // Uma nota em contingência sai em duas vias, com um corte entre elas.
 // Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_NFCE_OPTIONS, Q7_ERR_NFCE_NO_VERSION, Q7_ERR_NFCE_VERSION,
-// Q7_ERR_NFCE_EMISSION.
+// Q7_ERR_NFCE_EMISSION, Q7_ERR_NFCE_MODEL, Q7_ERR_NFCE_QR.
 // Efeito: na hora.
 // ESC/POS: os das funções de texto, de QR Code e do modo página.
 //   dados: o texto do XML (raiz nfeProc ou NFe), versão 4.00, com a urlChave; não o nome de um
@@ -1367,6 +1369,12 @@ begin
         'grupo infNFeSupl.';
     Q7_ERR_NFCE_OPTIONS:
       Result := 'Opções da NFC-e acima de 65535. O que fazer: some constantes de Q7NfceOption.';
+    Q7_ERR_NFCE_MODEL:
+      Result := 'NF-e (modelo 55) que não é um DANFE Simplificado Tipo 2. Só com o leiaute 6.0. O ' +
+        'que fazer: passe uma NFC-e (modelo 65) ou uma NF-e com tpImp 6.';
+    Q7_ERR_NFCE_QR:
+      Result := 'Nota sem QR Code. Só com o leiaute 6.0. O que fazer: passe o XML com o grupo ' +
+        'infNFeSupl inteiro; em contingência sem ele, também o CSC.';
     Q7_ERR_BUZZER_COUNT:
       Result := 'Quantidade de sinais sonoros acima de 63. O que fazer: passe de 0 a 63.';
     Q7_ERR_BUZZER_TIME:

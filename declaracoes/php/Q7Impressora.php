@@ -82,6 +82,10 @@ final class Q7Impressora
     public const Q7_ERR_NFCE_EMISSION = -103;
     /** Opções da NFC-e acima de 65535. */
     public const Q7_ERR_NFCE_OPTIONS = -104;
+    /** NF-e (modelo 55) que não é um DANFE Simplificado Tipo 2. Só com o leiaute 6.0. */
+    public const Q7_ERR_NFCE_MODEL = -105;
+    /** Nota sem QR Code. Só com o leiaute 6.0. */
+    public const Q7_ERR_NFCE_QR = -106;
     /** Quantidade de sinais sonoros acima de 63. */
     public const Q7_ERR_BUZZER_COUNT = -111;
     /** Os dois tempos do sinal sonoro acima de 25. */
@@ -319,7 +323,7 @@ final class Q7Impressora
     public const Q7_NFCE_GTIN = 2;
     /** cabeçalho ao lado da imagem "00" gravada na impressora. */
     public const Q7_NFCE_LOGO = 8;
-    /** aviso de ambiente de homologação. */
+    /** aviso de ambiente de homologação; o leiaute 6.0 segue o tpAmb. */
     public const Q7_NFCE_TEST = 16;
     /** linhas separadoras entre as divisões. */
     public const Q7_NFCE_SEPARATORS = 64;
@@ -368,6 +372,8 @@ final class Q7Impressora
         self::Q7_ERR_NFCE_NO_VERSION => 'Não é uma NFC-e, ou é uma sem o atributo versao. O que fazer: passe o texto do XML autorizado, com a raiz nfeProc ou NFe.',
         self::Q7_ERR_NFCE_EMISSION => 'Tipo de emissão (tpEmis) ausente ou 0. O que fazer: passe o XML inteiro, com o grupo infNFeSupl.',
         self::Q7_ERR_NFCE_OPTIONS => 'Opções da NFC-e acima de 65535. O que fazer: some constantes de Q7NfceOption.',
+        self::Q7_ERR_NFCE_MODEL => 'NF-e (modelo 55) que não é um DANFE Simplificado Tipo 2. Só com o leiaute 6.0. O que fazer: passe uma NFC-e (modelo 65) ou uma NF-e com tpImp 6.',
+        self::Q7_ERR_NFCE_QR => 'Nota sem QR Code. Só com o leiaute 6.0. O que fazer: passe o XML com o grupo infNFeSupl inteiro; em contingência sem ele, também o CSC.',
         self::Q7_ERR_BUZZER_COUNT => 'Quantidade de sinais sonoros acima de 63. O que fazer: passe de 0 a 63.',
         self::Q7_ERR_BUZZER_TIME => 'Os dois tempos do sinal sonoro acima de 25. O que fazer: passe os tempos em unidades de 100 ms.',
         self::Q7_ERR_DRAWER_PIN => 'Pino da gaveta acima de 1. O que fazer: passe 0 ou 1.',
@@ -1080,7 +1086,7 @@ final class Q7Impressora
      * Uma nota em contingência sai em duas vias, com um corte entre elas.
      *
      * Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_NFCE_OPTIONS, Q7_ERR_NFCE_NO_VERSION, Q7_ERR_NFCE_VERSION,
-     * Q7_ERR_NFCE_EMISSION.
+     * Q7_ERR_NFCE_EMISSION, Q7_ERR_NFCE_MODEL, Q7_ERR_NFCE_QR.
      *
      * Efeito: na hora.
      *

@@ -42,6 +42,8 @@ Public Const Q7_ERR_NFCE_VERSION As Long = -101 ' Versão do leiaute da NFC-e dif
 Public Const Q7_ERR_NFCE_NO_VERSION As Long = -102 ' Não é uma NFC-e, ou é uma sem o atributo versao
 Public Const Q7_ERR_NFCE_EMISSION As Long = -103 ' Tipo de emissão (tpEmis) ausente ou 0
 Public Const Q7_ERR_NFCE_OPTIONS As Long = -104 ' Opções da NFC-e acima de 65535
+Public Const Q7_ERR_NFCE_MODEL As Long = -105 ' NF-e (modelo 55) que não é um DANFE Simplificado Tipo 2. Só com o leiaute 6.0
+Public Const Q7_ERR_NFCE_QR As Long = -106 ' Nota sem QR Code. Só com o leiaute 6.0
 Public Const Q7_ERR_BUZZER_COUNT As Long = -111 ' Quantidade de sinais sonoros acima de 63
 Public Const Q7_ERR_BUZZER_TIME As Long = -112 ' Os dois tempos do sinal sonoro acima de 25
 Public Const Q7_ERR_DRAWER_PIN As Long = -121 ' Pino da gaveta acima de 1
@@ -179,7 +181,7 @@ Public Const Q7_CFE_TEST As Long = 4 ' aviso de teste sob o título
 Public Const Q7_NFCE_NO_ITEMS As Long = 1 ' sem os itens
 Public Const Q7_NFCE_GTIN As Long = 2 ' coluna larga de código, com o GTIN
 Public Const Q7_NFCE_LOGO As Long = 8 ' cabeçalho ao lado da imagem "00" gravada na impressora
-Public Const Q7_NFCE_TEST As Long = 16 ' aviso de ambiente de homologação
+Public Const Q7_NFCE_TEST As Long = 16 ' aviso de ambiente de homologação; o leiaute 6.0 segue o tpAmb
 Public Const Q7_NFCE_SEPARATORS As Long = 64 ' linhas separadoras entre as divisões
 Public Const Q7_NFCE_ISSUER_IE As Long = 128 ' inscrição estadual do emitente no cabeçalho
 Public Const Q7_NFCE_ITEM_NUMBERS As Long = 256 ' número de cada item
@@ -879,6 +881,10 @@ Public Function Mensagem(ByVal codigo As Long) As String
         Mensagem = "Tipo de emissão (tpEmis) ausente ou 0. O que fazer: passe o XML inteiro, com o grupo infNFeSupl."
     Case Q7_ERR_NFCE_OPTIONS
         Mensagem = "Opções da NFC-e acima de 65535. O que fazer: some constantes de Q7NfceOption."
+    Case Q7_ERR_NFCE_MODEL
+        Mensagem = "NF-e (modelo 55) que não é um DANFE Simplificado Tipo 2. Só com o leiaute 6.0. O que fazer: passe uma NFC-e (modelo 65) ou uma NF-e com tpImp 6."
+    Case Q7_ERR_NFCE_QR
+        Mensagem = "Nota sem QR Code. Só com o leiaute 6.0. O que fazer: passe o XML com o grupo infNFeSupl inteiro; em contingência sem ele, também o CSC."
     Case Q7_ERR_BUZZER_COUNT
         Mensagem = "Quantidade de sinais sonoros acima de 63. O que fazer: passe de 0 a 63."
     Case Q7_ERR_BUZZER_TIME
@@ -1066,7 +1072,7 @@ End Function
 ' Imprime o DANFE de uma NFC-e; não corta no fim.
 ' Uma nota em contingência sai em duas vias, com um corte entre elas.
 ' Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_NFCE_OPTIONS, Q7_ERR_NFCE_NO_VERSION, Q7_ERR_NFCE_VERSION,
-' Q7_ERR_NFCE_EMISSION.
+' Q7_ERR_NFCE_EMISSION, Q7_ERR_NFCE_MODEL, Q7_ERR_NFCE_QR.
 ' Efeito: na hora.
 ' ESC/POS: os das funções de texto, de QR Code e do modo página.
 '   dados: o texto do XML (raiz nfeProc ou NFe), versão 4.00, com a urlChave; não o nome de um

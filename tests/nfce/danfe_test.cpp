@@ -1,49 +1,13 @@
 // DANFE NFC-e receipts, as the printer gets them.
-#include "export_fixture.h"
-
-#include <fstream>
-#include <sstream>
+#include "nfce_notes.h"
 
 using namespace q7test;
 
 namespace
 {
 
-std::string document(const std::string& name)
-{
-    std::ostringstream text;
-    text << std::ifstream(Q7_DOCUMENTS "/" + name + ".xml").rdbuf();
-    EXPECT_NE(text.str(), "") << name;
-    return text.str();
-}
-
 constexpr char consumerNote[] = "autorizada-consumidor-cpf";
 constexpr char contingencyNote[] = "contingencia-offline";
-
-/** What to change in a note: the first `from`, which must be there, becomes `to`. */
-struct Edit {
-    std::string from;
-    std::string to;
-};
-
-std::string edited(std::string xml, const std::vector<Edit>& edits)
-{
-    for (const Edit& edit : edits) {
-        const std::size_t at = xml.find(edit.from);
-        EXPECT_NE(at, std::string::npos) << edit.from;
-        xml.replace(std::min(at, xml.size()), edit.from.size(), edit.to);
-    }
-    return xml;
-}
-
-/** Puts something else in the place of the first element of this name. */
-std::string without(std::string xml, const std::string& element, const std::string& instead = {})
-{
-    const std::string end = "</" + element + '>';
-    const std::size_t begin = xml.find('<' + element + '>');
-    EXPECT_NE(begin, std::string::npos) << element;
-    return xml.replace(begin, xml.find(end, begin) + end.size() - begin, instead);
-}
 
 std::string consumerWith(const std::vector<Edit>& edits)
 {
@@ -55,48 +19,13 @@ std::string consumerWithout(const std::string& element, const std::string& inste
     return without(document(consumerNote), element, instead);
 }
 
-class Danfe : public ExportTest
-{
-protected:
-    void openModel(const std::string& model)
-    {
-        PrinterScript script;
-        script.model = model;
-        openTcp(script);
-    }
+using Danfe = NfceTest;
 
-    std::string printed(const std::string& xml, int options = 0, int cscId = 1,
-                        const char* csc = "")
-    {
-        EXPECT_EQ(0, ImprimeXMLNFCe(xml.c_str(), cscId, csc, options));
-        return takeSent();
-    }
-};
-
-testing::AssertionResult contains(const std::string& bytes, const std::vector<std::string>& lines)
-{
-    const std::string part = encoded(lines);
-    if (bytes.find(part) != std::string::npos)
-        return testing::AssertionSuccess();
-    return sameBytes(part, bytes) << "\nWhat is expected stands nowhere in what was received.";
-}
-
-struct Receipt {
-    const char* name; // of the golden file
-    const char* document;
-    const char* model;
-    int options;
-};
-
-class WholeReceipt : public Danfe, public testing::WithParamInterface<Receipt>
-{
-};
+using WholeReceipt = ReceiptTest;
 
 TEST_P(WholeReceipt, IsAsLaidOut)
 {
-    openModel(GetParam().model);
-    const std::string bytes = printed(document(GetParam().document), GetParam().options);
-    EXPECT_TRUE(sameAsGolden("nfce/" + std::string(GetParam().name) + ".txt", bytes));
+    EXPECT_TRUE(isAsLaidOut());
 }
 
 constexpr Receipt receipts[] = {

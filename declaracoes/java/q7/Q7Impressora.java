@@ -86,6 +86,10 @@ public final class Q7Impressora {
     public static final int Q7_ERR_NFCE_EMISSION = -103;
     /** Opções da NFC-e acima de 65535. */
     public static final int Q7_ERR_NFCE_OPTIONS = -104;
+    /** NF-e (modelo 55) que não é um DANFE Simplificado Tipo 2. Só com o leiaute 6.0. */
+    public static final int Q7_ERR_NFCE_MODEL = -105;
+    /** Nota sem QR Code. Só com o leiaute 6.0. */
+    public static final int Q7_ERR_NFCE_QR = -106;
     /** Quantidade de sinais sonoros acima de 63. */
     public static final int Q7_ERR_BUZZER_COUNT = -111;
     /** Os dois tempos do sinal sonoro acima de 25. */
@@ -323,7 +327,7 @@ public final class Q7Impressora {
     public static final int Q7_NFCE_GTIN = 2;
     /** cabeçalho ao lado da imagem "00" gravada na impressora. */
     public static final int Q7_NFCE_LOGO = 8;
-    /** aviso de ambiente de homologação. */
+    /** aviso de ambiente de homologação; o leiaute 6.0 segue o tpAmb. */
     public static final int Q7_NFCE_TEST = 16;
     /** linhas separadoras entre as divisões. */
     public static final int Q7_NFCE_SEPARATORS = 64;
@@ -412,6 +416,10 @@ public final class Q7Impressora {
                 return "Tipo de emissão (tpEmis) ausente ou 0. O que fazer: passe o XML inteiro, com o grupo infNFeSupl.";
             case Q7_ERR_NFCE_OPTIONS:
                 return "Opções da NFC-e acima de 65535. O que fazer: some constantes de Q7NfceOption.";
+            case Q7_ERR_NFCE_MODEL:
+                return "NF-e (modelo 55) que não é um DANFE Simplificado Tipo 2. Só com o leiaute 6.0. O que fazer: passe uma NFC-e (modelo 65) ou uma NF-e com tpImp 6.";
+            case Q7_ERR_NFCE_QR:
+                return "Nota sem QR Code. Só com o leiaute 6.0. O que fazer: passe o XML com o grupo infNFeSupl inteiro; em contingência sem ele, também o CSC.";
             case Q7_ERR_BUZZER_COUNT:
                 return "Quantidade de sinais sonoros acima de 63. O que fazer: passe de 0 a 63.";
             case Q7_ERR_BUZZER_TIME:
@@ -1006,7 +1014,7 @@ public final class Q7Impressora {
      * <p>Uma nota em contingência sai em duas vias, com um corte entre elas.
      *
      * <p>Códigos: Q7_ERR_NOT_OPEN, Q7_ERR_NFCE_OPTIONS, Q7_ERR_NFCE_NO_VERSION,
-     * Q7_ERR_NFCE_VERSION, Q7_ERR_NFCE_EMISSION.
+     * Q7_ERR_NFCE_VERSION, Q7_ERR_NFCE_EMISSION, Q7_ERR_NFCE_MODEL, Q7_ERR_NFCE_QR.
      *
      * <p>Efeito: na hora.
      *

@@ -1,0 +1,67 @@
+#include "nfce_notes.h"
+
+#include <fstream>
+#include <sstream>
+
+namespace q7test
+{
+
+std::string document(const std::string& name)
+{
+    for (const char* folder : {Q7_EXAMPLE_DOCUMENTS, Q7_TEST_DOCUMENTS}) {
+        std::ostringstream text;
+        text << std::ifstream(std::string(folder) + '/' + name + ".xml").rdbuf();
+        if (!text.str().empty())
+            return text.str();
+    }
+    ADD_FAILURE() << "no document " << name;
+    return {};
+}
+
+std::string edited(std::string xml, const std::vector<Edit>& edits)
+{
+    for (const Edit& edit : edits) {
+        const std::size_t at = xml.find(edit.from);
+        EXPECT_NE(at, std::string::npos) << edit.from;
+        xml.replace(std::min(at, xml.size()), edit.from.size(), edit.to);
+    }
+    return xml;
+}
+
+std::string without(std::string xml, const std::string& element, const std::string& instead)
+{
+    const std::string end = "</" + element + '>';
+    const std::size_t begin = xml.find('<' + element + '>');
+    EXPECT_NE(begin, std::string::npos) << element;
+    return xml.replace(begin, xml.find(end, begin) + end.size() - begin, instead);
+}
+
+testing::AssertionResult contains(const std::string& bytes, const std::vector<std::string>& lines)
+{
+    const std::string part = encoded(lines);
+    if (bytes.find(part) != std::string::npos)
+        return testing::AssertionSuccess();
+    return sameBytes(part, bytes) << "\nWhat is expected stands nowhere in what was received.";
+}
+
+void NfceTest::openModel(const std::string& model)
+{
+    PrinterScript script;
+    script.model = model;
+    openTcp(script);
+}
+
+std::string NfceTest::printed(const std::string& xml, int options, int cscId, const char* csc)
+{
+    EXPECT_EQ(0, ImprimeXMLNFCe(xml.c_str(), cscId, csc, options));
+    return takeSent();
+}
+
+testing::AssertionResult ReceiptTest::isAsLaidOut()
+{
+    openModel(GetParam().model);
+    return sameAsGolden("nfce/" + std::string(GetParam().name) + ".txt",
+                        printed(document(GetParam().document), GetParam().options));
+}
+
+} // namespace q7test

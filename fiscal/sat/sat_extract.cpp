@@ -9,10 +9,6 @@ namespace q7
 namespace
 {
 
-constexpr int code128 = 8;
-constexpr int barcodeHeightDots = 50;
-constexpr int barcodeModuleDots = 2;
-constexpr int barcodeTextPosition = 4; // passed on to the printer, which prints no text for it
 constexpr int qrModuleDots = 5;
 constexpr int qrLevelL = 1;
 
@@ -55,13 +51,6 @@ QString consumerLine(const QString& consumerId)
 QString satUnitLine(const QString& serial)
 {
     return "SAT No. " + serial;
-}
-
-void printKeyBarcode(const QString& key)
-{
-    ImpressaoCodigoBarras(code128, ("{C" + key).toUtf8().constData(), barcodeHeightDots,
-                          barcodeModuleDots, barcodeTextPosition);
-    feed(1);
 }
 
 void printConsultationQrCode(const QString& key, const QString& emission, const QString& total,

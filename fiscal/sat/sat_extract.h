@@ -1,6 +1,7 @@
 // What the SAT extracts, sale and cancellation, print alike.
 #pragma once
 
+#include "key_barcode.h"
 #include "printer_session.h"
 #include "receipt_text.h"
 
@@ -26,9 +27,6 @@ void printIssuerIds(const PrinterSession& session, const QString& cnpj, const QS
 QString consumerLine(const QString& consumerId);
 
 QString satUnitLine(const QString& serial);
-
-/** Prints a key as one Code 128 barcode. ESC/POS: GS k 73. */
-void printKeyBarcode(const QString& key);
 
 /** Prints the QR code by which a CF-e is consulted. emission: AAAAMMDDhhmmss. ESC/POS: GS ( k. */
 void printConsultationQrCode(const QString& key, const QString& emission, const QString& total,

@@ -1,21 +1,16 @@
 #include "nfce_notes.h"
 
-#include <fstream>
-#include <sstream>
+#include "test_files.h"
+
+#include <filesystem>
 
 namespace q7test
 {
 
 std::string document(const std::string& name)
 {
-    for (const char* folder : {Q7_EXAMPLE_DOCUMENTS, Q7_TEST_DOCUMENTS}) {
-        std::ostringstream text;
-        text << std::ifstream(std::string(folder) + '/' + name + ".xml").rdbuf();
-        if (!text.str().empty())
-            return text.str();
-    }
-    ADD_FAILURE() << "no document " << name;
-    return {};
+    const std::string ownPath = std::string(Q7_TEST_DOCUMENTS) + '/' + name + ".xml";
+    return std::filesystem::exists(ownPath) ? fileContent(ownPath) : exampleDocument(name);
 }
 
 std::string edited(std::string xml, const std::vector<Edit>& edits)

@@ -1,0 +1,81 @@
+// The barcodes of SAT extracts whose keys have letters, at a site that follows today's rules.
+#include "drawn_receipt.h"
+#include "nfce_notes.h"
+
+#include <algorithm>
+
+using namespace q7test;
+
+namespace
+{
+
+struct Key {
+    const char* key;
+    const char* command; // GS k with its data
+};
+
+class KeyWithLetters : public NfceTest, public testing::WithParamInterface<Key>
+{
+};
+
+std::string saleWithKey(const std::string& key)
+{
+    std::string xml = document("venda-simples");
+    const std::size_t at = xml.find("\"CFe") + 4;
+    return xml.replace(at, 44, key);
+}
+
+TEST_P(KeyWithLetters, IsReadFromThePaper)
+{
+    for (const char* model : {"VANTA", "ORLA-K", "SORBE", "DUNEL", "RANZA"}) {
+        openModel(model);
+        ASSERT_EQ(0, ImprimeXMLSAT(saleWithKey(GetParam().key).c_str(), 2));
+        const std::string bytes = takeSent();
+        if (std::string(model) == "VANTA") {
+            EXPECT_TRUE(contains(bytes, {"1D 68 32 1D 77 01 1D 48 04", GetParam().command}));
+        }
+        constexpr int dotPixels = 3; // a module of one pixel is too narrow for the reader
+        const auto symbols = drawn(bytes, model, dotPixels).front().symbols;
+        const std::string code = std::string("CODE-128:") + GetParam().key;
+        EXPECT_EQ(std::count(symbols.begin(), symbols.end(), code), 1) << model;
+        FechaConexaoImpressora();
+    }
+}
+
+constexpr Key keys[] = {
+    {"35261012ABC34501DE35590001234560043500000047",
+     "1D 6B 49 21 \"{C\" 23 1A 0A 0C \"{AABC34501DE{C\" 23 3B 00 01 17 2D 3C 04 23 00 00 00 2F"},
+    // One letter, on the odd places of two pairs.
+    {"3526101A345678012359000123456004350000004712",
+     "1D 6B 49 1D \"{C\" 23 1A 0A \"{A1A{C\" 22 38 4E 01 17 3B 00 01 17 2D 3C 04 23 00 00 00 2F "
+     "0C"},
+    // An odd number of digits behind the last letter.
+    {"352610ABCDEFGHIJK359000123456004350000004712",
+     "1D 6B 49 22 \"{C\" 23 1A 0A \"{AABCDEFGHIJK3{C\" 3B 00 01 17 2D 3C 04 23 00 00 00 2F 0C"},
+};
+INSTANTIATE_TEST_SUITE_P(Sat, KeyWithLetters, testing::ValuesIn(keys));
+
+using SatExtract6_0 = NfceTest;
+
+TEST_F(SatExtract6_0, OfACancellationHasBothKeys)
+{
+    const std::string sale = "35261012ABC34501DE35590001234560043500000047";
+    std::string xml = document("cancelamento");
+    const std::size_t at = xml.find("chCanc=\"CFe") + 11;
+    xml.replace(at, 44, sale);
+    openModel("VANTA");
+    ASSERT_EQ(0, ImprimeXMLCancelamentoSAT(xml.c_str(), std::string(344, 's').c_str(), 0));
+    const std::string code = "CODE-128:" + sale;
+    const auto symbols = drawn(takeSent(), "VANTA", 3).front().symbols;
+    EXPECT_EQ(std::count(symbols.begin(), symbols.end(), code), 1);
+}
+
+// What the rules do not change.
+TEST_F(SatExtract6_0, OfDigitsIsAsItAlwaysWas)
+{
+    openModel("VANTA");
+    ASSERT_EQ(0, ImprimeXMLSAT(document("venda-simples").c_str(), 0));
+    EXPECT_TRUE(sameAsGolden("sat/venda-simples.VANTA.0.txt", takeSent()));
+}
+
+} // namespace

@@ -1,11 +1,10 @@
 #include "log.h"
 
 #include "data_folder.h"
-#include "local_time.h"
+#include "log_system.h"
 
 #include <algorithm>
 #include <atomic>
-#include <cstdio>
 #include <cstring>
 
 namespace q7
@@ -52,13 +51,13 @@ QByteArray makeLine(int kind, const char* message)
     const LocalTime now = localTime();
     char time[] = "[dd.MM.yyyy-hh:mm:ss.zzz]";
     char* position = time + 1;
-    put(position, now.day, 2, '.');
-    put(position, now.month, 2, '.');
-    put(position, now.year, 4, '-');
-    put(position, now.hour, 2, ':');
-    put(position, now.minute, 2, ':');
-    put(position, now.second, 2, '.');
-    put(position, now.millisecond, 3, ']');
+    put(position, now.fields.tm_mday, 2, '.');
+    put(position, now.fields.tm_mon + 1, 2, '.');
+    put(position, now.fields.tm_year + 1900, 4, '-');
+    put(position, now.fields.tm_hour, 2, ':');
+    put(position, now.fields.tm_min, 2, ':');
+    put(position, now.fields.tm_sec, 2, '.');
+    put(position, now.milliseconds, 3, ']');
 
     const std::size_t length = std::strlen(message);
     QByteArray line;
@@ -74,12 +73,16 @@ QByteArray makeLine(int kind, const char* message)
 
 } // namespace
 
-LogCall::LogCall()
+LogCall::LogCall() noexcept
 {
-    if (callUnderWay == nullptr) {
+    if (callUnderWay != nullptr)
+        return;
+    try {
         m_file = findLog();
-        callUnderWay = this;
+    } catch (...) {
+        // No memory: the call is not logged.
     }
+    callUnderWay = this;
 }
 
 LogCall::~LogCall()
@@ -102,10 +105,8 @@ void writeLog(int kind, const char* message)
     if (!file.exists())
         return;
 
-    if (!file.append(makeLine(kind, message))) {
-        std::fputs("Erro ao abrir arquivo!\n", stdout);
-        std::fflush(stdout);
-    }
+    if (!file.append(makeLine(kind, message)))
+        print("Erro ao abrir arquivo!\n");
 }
 
 void writeLog(LogKind kind, const QString& message)

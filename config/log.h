@@ -19,7 +19,7 @@ enum class LogKind : int {
 class LogCall
 {
 public:
-    LogCall();
+    LogCall() noexcept;
     ~LogCall();
     LogCall(const LogCall&) = delete;
     LogCall& operator=(const LogCall&) = delete;

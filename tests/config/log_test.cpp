@@ -206,4 +206,22 @@ TEST(Log, ThatCannotBeOpenedIsToldOnStandardOutput)
     close(reader);
 }
 
+TEST(Log, DoesNotEndAProgramWhoseOutputNobodyReads)
+{
+    const DataFolder data(DataFolder::Log::Off);
+    ASSERT_EQ(0, mkdir((data.path() + "/log_q7.txt").c_str(), 0700));
+    int ends[2] = {};
+    ASSERT_EQ(0, pipe2(ends, O_CLOEXEC));
+    const int output = dup(STDOUT_FILENO);
+    dup2(ends[1], STDOUT_FILENO);
+    close(ends[0]);
+    q7::writeLog(2, "line"); // tries to tell that the log cannot be opened
+    dup2(output, STDOUT_FILENO);
+    close(output);
+    close(ends[1]);
+    sigset_t pending;
+    sigpending(&pending);
+    EXPECT_EQ(0, sigismember(&pending, SIGPIPE));
+}
+
 } // namespace

@@ -53,7 +53,8 @@ private:
 
 /** While one lives, libxml2 reads these files on this thread, and no others: an address that is not
  *  theirs finds nothing. libxml2 keeps this choice for each thread apart, so that a program that uses
- *  it elsewhere does not notice, and it is put back in the end. */
+ *  it elsewhere does not notice, and it is put back in the end. (The libxml2 inside our programs for
+ *  Windows is built without threads; nothing else there uses it.) */
 class OfferedFiles
 {
 public:

@@ -14,6 +14,10 @@ using NativeSocket = asio::ip::tcp::socket::native_handle_type;
 /** Starts the system's socket layer, where it has to be started. */
 void startSockets();
 
+/** What a socket's error means: the number that the system gave, which the C++ library does not know
+ *  the meaning of on every system. */
+std::errc conditionOf(const std::error_code& socketError);
+
 /** Opens a socket that no program that this process starts inherits. */
 std::error_code openSocket(asio::ip::tcp::socket& socket, const asio::ip::tcp& protocol);
 

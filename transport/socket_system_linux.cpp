@@ -22,6 +22,11 @@ void setTcpOption(NativeSocket socket, int option)
 
 void startSockets() {}
 
+std::errc conditionOf(const std::error_code& socketError)
+{
+    return static_cast<std::errc>(socketError.value());
+}
+
 std::error_code openSocket(asio::ip::tcp::socket& socket, const asio::ip::tcp& protocol)
 {
     const int descriptor =

@@ -26,6 +26,44 @@ void startSockets()
     static_cast<void>(isStarted);
 }
 
+// MinGW's C++ library takes Winsock's numbers for no condition at all.
+std::errc conditionOf(const std::error_code& socketError)
+{
+    switch (socketError.value()) {
+    case WSAECONNREFUSED:
+        return std::errc::connection_refused;
+    case WSAECONNRESET:
+        return std::errc::connection_reset;
+    case WSAEACCES:
+        return std::errc::permission_denied;
+    case WSAEMFILE:
+        return std::errc::too_many_files_open;
+    case WSAENOBUFS:
+        return std::errc::no_buffer_space;
+    case ERROR_NOT_ENOUGH_MEMORY:
+        return std::errc::not_enough_memory;
+    case WSAETIMEDOUT:
+    case ERROR_SEM_TIMEOUT: // what a connection attempt in the background ends with
+        return std::errc::timed_out;
+    case WSAEHOSTUNREACH:
+    case ERROR_HOST_UNREACHABLE:
+        return std::errc::host_unreachable;
+    case WSAENETUNREACH:
+    case ERROR_NETWORK_UNREACHABLE:
+        return std::errc::network_unreachable;
+    case WSAENETDOWN:
+        return std::errc::network_down;
+    case WSAEADDRINUSE:
+        return std::errc::address_in_use;
+    case WSAEADDRNOTAVAIL:
+        return std::errc::address_not_available;
+    case WSAEAFNOSUPPORT:
+        return std::errc::address_family_not_supported;
+    default:
+        return std::errc::io_error;
+    }
+}
+
 std::error_code openSocket(asio::ip::tcp::socket& socket, const asio::ip::tcp& protocol)
 {
     std::error_code error;

@@ -41,10 +41,8 @@ constexpr KnownError knownErrors[] = {
 
 TcpOpened failed(const std::error_code& error)
 {
-    // Asio's own category knows few conditions.
-    const std::error_code inSystemsTerms(error.value(), std::system_category());
     for (const KnownError& known : knownErrors)
-        if (inSystemsTerms == known.condition)
+        if (conditionOf(error) == known.condition)
             return {nullptr, known.number, known.text};
     return {nullptr, -1, "Unknown error"};
 }

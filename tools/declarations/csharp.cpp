@@ -84,11 +84,8 @@ std::string method(const Function& function)
         body = "return Texto(" + call + ");";
     else if (function.result != Kind::Nothing)
         body = "return " + body;
-    return documentation(function) + "    public static " + publicType(function.result) + " " +
-           function.name + "(" +
-           list(function.parameters, ", ",
-                [](const Parameter& p) { return publicType(p.kind) + " " + nameOf(p); }) +
-           ")\n    {\n        " + body + "\n    }\n\n";
+    return documentation(function) + "    " + csharpSignature(function) + "\n    {\n        " +
+           body + "\n    }\n\n";
 }
 
 std::string nativeMethod(const Function& function)
@@ -102,6 +99,14 @@ std::string nativeMethod(const Function& function)
 }
 
 } // namespace
+
+std::string csharpSignature(const Function& function)
+{
+    return "public static " + publicType(function.result) + " " + function.name + "(" +
+           list(function.parameters, ", ",
+                [](const Parameter& p) { return publicType(p.kind) + " " + nameOf(p); }) +
+           ")";
+}
 
 std::string csharpClass(const Interface& interface)
 {

@@ -99,10 +99,15 @@ std::string body(const Function& function)
         call = "Result := Texto(" + call + ")";
     else if (function.result != Kind::Nothing)
         call = "Result := " + call;
-    return heading(function, function.name, false) + "\nbegin\n  " + call + ";\nend;\n\n";
+    return delphiSignature(function) + "\nbegin\n  " + call + ";\nend;\n\n";
 }
 
 } // namespace
+
+std::string delphiSignature(const Function& function)
+{
+    return heading(function, function.name, false);
+}
 
 std::string delphiUnit(const Interface& interface)
 {
@@ -143,7 +148,7 @@ function Mensagem(codigo: Integer): TQ7Texto;
 
 )";
     for (const Function& function : interface.functions)
-        text += documentation(function) + heading(function, function.name, false) + "\n\n";
+        text += documentation(function) + delphiSignature(function) + "\n\n";
     text += R"(implementation
 
 uses

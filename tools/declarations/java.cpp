@@ -84,12 +84,16 @@ std::string method(const Function& function)
         body = "return texto(" + call + ");";
     else if (function.result != Kind::Nothing)
         body = "return " + body;
-    return documentation(function) + "    public static " +
-           declaration(function, publicType(function.result)) + " {\n        " + body +
+    return documentation(function) + "    " + javaSignature(function) + " {\n        " + body +
            "\n    }\n\n";
 }
 
 } // namespace
+
+std::string javaSignature(const Function& function)
+{
+    return "public static " + declaration(function, publicType(function.result));
+}
 
 std::string javaClass(const Interface& interface)
 {

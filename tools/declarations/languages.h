@@ -4,6 +4,7 @@
 #include "interface.h"
 
 #include <string>
+#include <vector>
 
 namespace q7decl
 {
@@ -27,5 +28,21 @@ std::string cMessages(const Interface& interface);
 
 /** The header's examples as a C program, to be compiled: they must be C, and name what there is. */
 std::string headerExamples(const Interface& interface);
+
+/** How an application declares and calls a function in a language, on one line or a few. */
+struct Language {
+    const char* name;
+    const char* highlighting; // what Sphinx calls the language
+    std::string (*signature)(const Function&);
+};
+
+std::string delphiSignature(const Function& function);
+std::string csharpSignature(const Function& function);
+std::string vb6Signature(const Function& function);
+std::string javaSignature(const Function& function);
+std::string pythonSignature(const Function& function);
+std::string phpSignature(const Function& function);
+
+const std::vector<Language>& languages();
 
 } // namespace q7decl

@@ -1,8 +1,10 @@
 // Makes from the public header what it is the one source of.
 //
 //   q7_declarations declarations CASTXML-OUTPUT HEADER FOLDER   the declarations in other languages
+//   q7_declarations manual CASTXML-OUTPUT HEADER FOLDER         the manual's reference part
 //   q7_declarations examples CASTXML-OUTPUT HEADER FOLDER       its examples as a C program
 #include "languages.h"
+#include "manual.h"
 
 #include <cstdio>
 #include <exception>
@@ -55,8 +57,9 @@ void write(const std::filesystem::path& path, const std::string& content)
 int main(int argc, char** argv)
 {
     const std::string_view what = argc == 5 ? argv[1] : "";
-    if (what != "declarations" && what != "examples") {
-        std::fprintf(stderr, "usage: %s declarations|examples CASTXML-OUTPUT HEADER FOLDER\n",
+    if (what != "declarations" && what != "manual" && what != "examples") {
+        std::fprintf(stderr,
+                     "usage: %s declarations|manual|examples CASTXML-OUTPUT HEADER FOLDER\n",
                      argv[0]);
         return 2;
     }
@@ -67,6 +70,9 @@ int main(int argc, char** argv)
         if (what == "declarations")
             for (const Output& output : declarations)
                 write(folder / output.file, output.write(interface));
+        else if (what == "manual")
+            for (const auto& [file, page] : manualPages(interface))
+                write(folder / file, page);
         else
             write(folder / "header_examples.c", headerExamples(interface));
     } catch (const HeaderError& error) {

@@ -116,16 +116,22 @@ std::string method(const Function& function)
         body += "        " + call + ";\n";
     else
         body += "        return " + call + ";\n";
-    const std::string result = function.result == Kind::ReturnedText ? "?string"
-                               : function.result == Kind::Nothing    ? "void"
-                                                                     : "int";
-    return documentation(function) + "    public static function " + function.name + "(" +
-           list(function.parameters, ", ",
-                [](const Parameter& p) { return typeOf(p) + "$" + p.name; }) +
-           "): " + result + "\n    {\n" + body + "    }\n\n";
+    return documentation(function) + "    " + phpSignature(function) + "\n    {\n" + body +
+           "    }\n\n";
 }
 
 } // namespace
+
+std::string phpSignature(const Function& function)
+{
+    const std::string result = function.result == Kind::ReturnedText ? "?string"
+                               : function.result == Kind::Nothing    ? "void"
+                                                                     : "int";
+    return "public static function " + function.name + "(" +
+           list(function.parameters, ", ",
+                [](const Parameter& p) { return typeOf(p) + "$" + p.name; }) +
+           "): " + result;
+}
 
 std::string phpClass(const Interface& interface)
 {

@@ -146,8 +146,7 @@ std::string documentation(const Function& function)
 
 std::string definition(const Function& function)
 {
-    std::string text = "def " + function.name + "(" + list(inputs(function), ", ", signature) +
-                       ") -> " + resultHint(function) + ":\n" + documentation(function);
+    std::string text = pythonSignature(function) + ":\n" + documentation(function);
     std::string results;
     for (const Parameter& parameter : function.parameters) {
         const std::string name = nameOf(parameter);
@@ -176,6 +175,12 @@ std::string definition(const Function& function)
 }
 
 } // namespace
+
+std::string pythonSignature(const Function& function)
+{
+    return "def " + function.name + "(" + list(inputs(function), ", ", signature) + ") -> " +
+           resultHint(function);
+}
 
 std::string pythonModule(const Interface& interface)
 {

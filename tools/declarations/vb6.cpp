@@ -80,13 +80,7 @@ std::string declaration(const Function& function)
 std::string wrapper(const Function& function)
 {
     const bool isSub = function.result == Kind::Nothing;
-    const std::string word = isSub ? "Sub" : "Function";
-    std::string text = documentation(function) + "Public " + word + " " + function.name + "(" +
-                       list(function.parameters, ", ", publicParameter) + ")" +
-                       (isSub                                   ? ""
-                        : function.result == Kind::ReturnedText ? " As String"
-                                                                : " As Long") +
-                       "\n";
+    std::string text = documentation(function) + vb6Signature(function) + "\n";
     std::string conversions;
     for (const Parameter& parameter : function.parameters)
         if (parameter.kind == Kind::Text) {
@@ -104,10 +98,20 @@ std::string wrapper(const Function& function)
         text += "    " + function.name + " = Texto(dll" + function.name + "(" + arguments + "))\n";
     else
         text += "    " + function.name + " = dll" + function.name + "(" + arguments + ")\n";
-    return text + "End " + word + "\n\n";
+    return text + (isSub ? "End Sub\n\n" : "End Function\n\n");
 }
 
 } // namespace
+
+std::string vb6Signature(const Function& function)
+{
+    const bool isSub = function.result == Kind::Nothing;
+    return std::string("Public ") + (isSub ? "Sub " : "Function ") + function.name + "(" +
+           list(function.parameters, ", ", publicParameter) + ")" +
+           (isSub                                   ? ""
+            : function.result == Kind::ReturnedText ? " As String"
+                                                    : " As Long");
+}
 
 std::string vb6Module(const Interface& interface)
 {

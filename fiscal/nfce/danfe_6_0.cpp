@@ -224,6 +224,7 @@ void Danfe6_0::printHeadingBesideLogo(const QString& heading)
     constexpr int linesBesideLogo = 8;
     const int columns = qMin(textColumnDots, m_lineDots - pictureColumnDots) / smallFontDots;
     const QStringList lines = wrapped(heading, columns).split(QLatin1Char('\n'));
+    m_printer.send(m_codeTable); // which the heading leaves as it finds it
     printLogoHeading(lines.mid(0, linesBesideLogo).join(QLatin1Char('\n')) + '\n',
                      LogoPlace::LeftMargin);
     feed(1);

@@ -29,6 +29,10 @@ UsbOpened openUsb(asio::io_context& context, const QString& path)
                                         FILE_FLAG_OVERLAPPED, nullptr);
     if (handle == INVALID_HANDLE_VALUE)
         return {nullptr, static_cast<int>(::GetLastError())};
+    // A read ends at the first gap where the driver knows time-outs; else it does so anyway.
+    COMMTIMEOUTS timeouts = {};
+    timeouts.ReadIntervalTimeout = 1;
+    ::SetCommTimeouts(handle, &timeouts);
     asio::windows::stream_handle device(context);
     std::error_code error;
     device.assign(handle, error);

@@ -1,0 +1,130 @@
+/* One program that uses the library, told by lines on its standard input what to do: session DLL.
+ * For each line it says the result and the milliseconds that the call took:
+ *
+ *   load | free                     says whether the library is loaded then
+ *   open KIND ADDRESS NUMBER | close
+ *   text BYTES                      prints numbered lines, so many bytes together, in one call
+ *   status KIND | id KIND
+ *   hold PORT | release             opens a serial port beside the library
+ *   unstoppable                     from here on the system ends no operation that is under way
+ *   threads                         says how many the process has */
+#include "host.h"
+#include "process.h"
+#include "q7_impressora.h"
+
+#include <fcntl.h>
+#include <io.h>
+#include <stdio.h>
+#include <stdlib.h>
+#include <string.h>
+#include <windows.h>
+
+static const char* dll;
+static void* library;
+static HANDLE held = INVALID_HANDLE_VALUE;
+static long lineNumber;
+
+static int printLines(const char* bytes)
+{
+    const size_t size = (size_t)atol(bytes);
+    char* text = malloc(size + 64);
+    for (size_t i = 0; i < size; i += 64)
+        snprintf(text + i, 65, "%-62.06ld.\n", ++lineNumber);
+    text[size] = '\0';
+    const int result = TYPED_EXPORT(library, ImpressaoTexto)(text, 0, 0, 0);
+    free(text);
+    return result;
+}
+
+static int freeTheLibrary(void)
+{
+    FreeLibrary(library);
+    library = NULL;
+    return GetModuleHandleA(dll) != NULL;
+}
+
+static int load(void)
+{
+    library = loadLibrary(dll);
+    return GetModuleHandleA(dll) != NULL;
+}
+
+static int holdPort(const char* name)
+{
+    char path[100];
+    snprintf(path, sizeof path, "\\\\.\\%s", name);
+    held = CreateFileA(path, GENERIC_READ | GENERIC_WRITE, 0, NULL, OPEN_EXISTING, 0, NULL);
+    return held != INVALID_HANDLE_VALUE;
+}
+
+/* A driver that lets go of nothing: the function that ends operations does nothing and says so. */
+static int makeUnstoppable(void)
+{
+#ifdef _WIN64
+    static const unsigned char returnFalse[] = {0x33, 0xC0, 0xC3};
+#else
+    static const unsigned char returnFalse[] = {0x33, 0xC0, 0xC2, 0x08, 0x00};
+#endif
+    void (*function)(void) =
+        (void (*)(void))GetProcAddress(GetModuleHandleA("kernel32"), "CancelIoEx");
+    void* code = *(void**)&function;
+    DWORD before;
+    return VirtualProtect(code, sizeof returnFalse, PAGE_EXECUTE_READWRITE, &before) &&
+           memcpy(code, returnFalse, sizeof returnFalse) != NULL;
+}
+
+/* Returns the command's result, or writes it to text (100 bytes) where it is no number. */
+static int obey(const char* command, char* const* argument, char* text)
+{
+    if (strcmp(command, "load") == 0)
+        return load();
+    if (strcmp(command, "free") == 0)
+        return freeTheLibrary();
+    if (strcmp(command, "open") == 0)
+        return TYPED_EXPORT(library, AbreConexaoImpressora)(atoi(argument[0]), argument[3],
+                                                            argument[1], atoi(argument[2]));
+    if (strcmp(command, "close") == 0)
+        return TYPED_EXPORT(library, FechaConexaoImpressora)();
+    if (strcmp(command, "text") == 0)
+        return printLines(argument[0]);
+    if (strcmp(command, "status") == 0)
+        return TYPED_EXPORT(library, StatusImpressora)(atoi(argument[0]));
+    if (strcmp(command, "id") == 0)
+        return snprintf(text, 100, "%s", TYPED_EXPORT(library, IdImpressora)(atoi(argument[0])));
+    if (strcmp(command, "hold") == 0)
+        return holdPort(argument[0]);
+    if (strcmp(command, "release") == 0)
+        return CloseHandle(held);
+    if (strcmp(command, "unstoppable") == 0)
+        return makeUnstoppable();
+    if (strcmp(command, "threads") == 0)
+        return countThreads();
+    fprintf(stderr, "unknown command %s\n", command);
+    exit(2);
+}
+
+int main(int argc, char** argv)
+{
+    if (argc != 2)
+        return 2;
+    dll = argv[1];
+    _setmode(_fileno(stdout), _O_BINARY);
+    load();
+    char line[1000];
+    while (fgets(line, sizeof line, stdin) != NULL) {
+        char* argument[5] = {"", "", "", "", ""};
+        char text[100] = "";
+        int count = 0;
+        for (char* word = strtok(line, " \r\n"); word != NULL && count < 5;
+             word = strtok(NULL, " \r\n"))
+            argument[count++] = word;
+        const DWORD start = GetTickCount();
+        const int result = obey(argument[0], argument + 1, text);
+        const DWORD tookMs = GetTickCount() - start;
+        if (text[0] == '\0')
+            snprintf(text, sizeof text, "%d", result);
+        printf("%s %lu\n", text, tookMs);
+        fflush(stdout);
+    }
+    return 0;
+}

@@ -1,8 +1,8 @@
 // The states' addresses and abbreviations, against the published list where it is at hand.
 #include "nfce_addresses.h"
 #include "state_table.h"
+#include "test_files.h"
 
-#include <fstream>
 #include <gtest/gtest.h>
 #include <sstream>
 #include <vector>
@@ -28,9 +28,10 @@ std::vector<std::string> fieldsOf(const std::string& row)
 
 TEST(NfceAddresses, AreThePublishedOnes)
 {
-    std::ifstream list(Q7_SHARED_DATA "/nfce-addresses.tsv");
-    if (!list)
-        GTEST_SKIP() << "no " Q7_SHARED_DATA "/nfce-addresses.tsv";
+    const std::string path = q7test::sampleData("nfce-addresses.tsv");
+    if (path.empty())
+        GTEST_SKIP() << "no nfce-addresses.tsv in the sample data";
+    std::istringstream list(q7test::fileContent(path));
     std::string row;
     std::getline(list, row); // the columns' names
     int states = 0;

@@ -197,7 +197,7 @@ TEST_F(Page, HoldsTwoHundredReceipts)
     const auto printReceipts = [this](int count) {
         std::string receipts;
         for (int number = 0; number < count; ++number) {
-            receipts += longReceipt().substr(0, 4000) + std::string("\n\x1DV\0", 4);
+            receipts += longReceipt().substr(0, 2000) + std::string("\n\x1DV\0", 4);
         }
         send(receipts);
     };
@@ -211,8 +211,8 @@ TEST_F(Page, HoldsTwoHundredReceipts)
                           std::chrono::seconds(60)));
     EXPECT_EQ(m_browser->evaluate("document.querySelectorAll('.receipt').length"), 200);
     // Past every picture, as a person who looks for an old one.
-    for (int screen = 0; screen < 60; ++screen) {
-        m_browser->evaluate("scrollBy(0, document.body.scrollHeight / 60), "
+    for (int screen = 0; screen < 30; ++screen) {
+        m_browser->evaluate("scrollBy(0, document.body.scrollHeight / 30), "
                             "new Promise(requestAnimationFrame)");
     }
     m_browser->evaluate("document.querySelector('li:last-child .sight').open = true, "

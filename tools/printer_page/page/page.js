@@ -124,11 +124,23 @@ function fill(ul, texts) {
 }
 
 function saveLinks(item, receipt) {
-  for (const link of item.querySelectorAll('[data-save]')) {
-    const picture = link.dataset.save === 'imagem';
-    link.href = `cupons/${receipt.numero}/${picture ? 'imagem-1.png' : link.dataset.save}`;
-    link.download = `cupom-${receipt.numero}${{ imagem: '.png', 'texto.txt': '.txt', 'bytes.bin': '.bin' }[link.dataset.save]}`;
+  const links = [...item.querySelectorAll('[data-save]')];
+  for (const link of links) {
+    const file = link.dataset.save;
+    link.href = `cupons/${receipt.numero}/${file}`;
+    link.download = `cupom-${receipt.numero}${file.slice(file.lastIndexOf('.'))}`;
     link.setAttribute('aria-label', `${link.textContent} do cupom ${receipt.numero}`);
+  }
+  links[0].onclick = () => saveFurtherParts(receipt);
+}
+
+// A receipt longer than two metres is several pictures.
+function saveFurtherParts(receipt) {
+  for (let part = 2; part <= receipt.imagens.length; part++) {
+    const link = document.createElement('a');
+    link.href = `cupons/${receipt.numero}/imagem-${part}.png`;
+    link.download = `cupom-${receipt.numero}-${part}.png`;
+    link.click();
   }
 }
 
@@ -230,7 +242,11 @@ async function ask(path, body) {
   trouble.hidden = trouble.textContent === '';
 }
 
-byId('panel').open = matchMedia('(min-width: 52rem)').matches; // a small window is for the receipts
+// A small window is for the receipts.
+const wide = matchMedia('(min-width: 52.01rem)');
+const fitPanel = () => { byId('panel').open = wide.matches; };
+wide.addEventListener('change', fitPanel);
+fitPanel();
 switches.addEventListener('submit', (event) => event.preventDefault());
 switches.addEventListener('change', ({ target }) => {
   const position = target.type === 'checkbox' ? target.dataset[target.checked ? 'on' : 'off'] : target.value;

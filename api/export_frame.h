@@ -48,8 +48,8 @@ struct ExportName {
     const char* returnLabel = ". RETORNO:";
 };
 
-/** One export under way, perhaps within another. Other threads wait for the end of the outermost,
- *  with which the sends of all leave together. */
+/** One export under way, perhaps within another: the sends of all leave together with the end of the
+ *  outermost. Its thread has the turn. */
 class SessionCall
 {
 public:
@@ -58,10 +58,7 @@ public:
     SessionCall(const SessionCall&) = delete;
     SessionCall& operator=(const SessionCall&) = delete;
 
-    bool isOutermost() const { return m_isOutermost; }
-
 private:
-    const Turn m_turn;
     const bool m_isOutermost;
     LogCall m_log;
 };
@@ -110,11 +107,15 @@ void logReturn(const ExportName& name, int result);
  *  whole one. body: takes the session. */
 template <typename Result, typename Body> Result runExport(Result onException, Body&& body)
 {
-    const SessionCall call;
-    if (!call.isOutermost())
+    const Turn turn; // other threads wait for the end of the outermost
+    const auto run = [&body] {
+        const SessionCall call;
         return body(session());
+    };
+    if (session().callDepth > 0)
+        return run();
     try {
-        return body(session());
+        return run();
     } catch (...) {
         return onException;
     }

@@ -3,6 +3,7 @@
 
 #include <cerrno>
 #include <fcntl.h>
+#include <system_error>
 #include <unistd.h>
 
 namespace q7
@@ -23,5 +24,35 @@ inline int aboveStandard(int descriptor)
     errno = error;
     return replacement;
 }
+
+/** Closes what was opened unless somebody takes it, also where taking it fails for want of memory. */
+class OwnedDescriptor
+{
+public:
+    explicit OwnedDescriptor(int descriptor) : m_descriptor(descriptor) {}
+    ~OwnedDescriptor()
+    {
+        if (m_descriptor >= 0)
+            ::close(m_descriptor);
+    }
+    OwnedDescriptor(const OwnedDescriptor&) = delete;
+    OwnedDescriptor& operator=(const OwnedDescriptor&) = delete;
+
+    bool isOpen() const { return m_descriptor >= 0; }
+    int get() const { return m_descriptor; }
+
+    /** Lets a stream of Asio's have it. */
+    template <typename Assign> std::error_code handTo(Assign assign)
+    {
+        std::error_code error;
+        assign(m_descriptor, error);
+        if (!error)
+            m_descriptor = -1;
+        return error;
+    }
+
+private:
+    int m_descriptor;
+};
 
 } // namespace q7

@@ -7,8 +7,10 @@
 #include <asio/serial_port.hpp>
 
 #include <cerrno>
+#include <dirent.h>
 #include <fcntl.h>
 #include <filesystem>
+#include <memory>
 #include <strings.h>
 #include <sys/file.h>
 #include <sys/ioctl.h>
@@ -29,10 +31,11 @@ fs::path entryIgnoringCase(const fs::path& folder, const fs::path& name)
     std::error_code error;
     if (fs::exists(folder / name, error))
         return name;
-    for (fs::directory_iterator entry(folder, error); !error && entry != fs::directory_iterator();
-         entry.increment(error))
-        if (::strcasecmp(entry->path().filename().c_str(), name.c_str()) == 0)
-            return entry->path().filename();
+    // The standard library's own iterator ends the process where memory has run out.
+    const std::unique_ptr<DIR, int (*)(DIR*)> entries(::opendir(folder.c_str()), ::closedir);
+    while (const dirent* entry = entries ? ::readdir(entries.get()) : nullptr)
+        if (::strcasecmp(entry->d_name, name.c_str()) == 0)
+            return entry->d_name;
     return {};
 }
 
@@ -124,19 +127,15 @@ SerialOpened openSerial(asio::io_context& context, const QString& name, int bits
     const fs::path path = resolvePortName(name.toStdString());
     if (path.empty())
         return {nullptr, Q7_ERR_SERIAL_NOT_FOUND};
-    const int descriptor =
-        aboveStandard(::open(path.c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC));
-    if (descriptor < 0)
+    OwnedDescriptor descriptor(
+        aboveStandard(::open(path.c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC)));
+    if (!descriptor.isOpen())
         return {nullptr, codeOf(errno)};
     asio::serial_port port(context);
-    const int refusal = setUp(descriptor, bitsPerSecond);
-    std::error_code error;
-    if (refusal == 0)
-        port.assign(descriptor, error);
-    if (refusal != 0 || error) {
-        ::close(descriptor);
-        return {nullptr, refusal != 0 ? codeOf(refusal) : int{Q7_ERR_FAILED}};
-    }
+    if (const int refusal = setUp(descriptor.get(), bitsPerSecond))
+        return {nullptr, codeOf(refusal)};
+    if (descriptor.handTo([&](int given, std::error_code& error) { port.assign(given, error); }))
+        return {nullptr, Q7_ERR_FAILED};
     return {std::make_unique<SerialEndpoint>(std::move(port)), Q7_OK};
 }
 

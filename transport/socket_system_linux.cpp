@@ -29,15 +29,12 @@ std::errc conditionOf(const std::error_code& socketError)
 
 std::error_code openSocket(asio::ip::tcp::socket& socket, const asio::ip::tcp& protocol)
 {
-    const int descriptor =
-        aboveStandard(::socket(protocol.family(), SOCK_STREAM | SOCK_CLOEXEC, 0));
-    if (descriptor < 0)
+    OwnedDescriptor descriptor(
+        aboveStandard(::socket(protocol.family(), SOCK_STREAM | SOCK_CLOEXEC, 0)));
+    if (!descriptor.isOpen())
         return {errno, std::system_category()};
-    std::error_code error;
-    socket.assign(protocol, descriptor, error);
-    if (error)
-        ::close(descriptor);
-    return error;
+    return descriptor.handTo(
+        [&](int given, std::error_code& error) { socket.assign(protocol, given, error); });
 }
 
 void prepareSocket(NativeSocket socket)

@@ -33,17 +33,15 @@ public:
 
 UsbOpened openUsb(asio::io_context& context, const QString& path)
 {
-    const int descriptor = aboveStandard(
-        ::open(path.toStdString().c_str(), O_RDWR | O_NONBLOCK | O_CLOEXEC | O_NOCTTY));
-    if (descriptor < 0)
+    OwnedDescriptor descriptor(aboveStandard(
+        ::open(path.toStdString().c_str(), O_RDWR | O_NONBLOCK | O_CLOEXEC | O_NOCTTY)));
+    if (!descriptor.isOpen())
         return {nullptr, errno};
     asio::posix::stream_descriptor device(context);
-    std::error_code error;
-    device.assign(descriptor, error);
-    if (error) {
-        ::close(descriptor);
-        return {nullptr, error.value()};
-    }
+    const std::error_code refusal =
+        descriptor.handTo([&](int given, std::error_code& error) { device.assign(given, error); });
+    if (refusal)
+        return {nullptr, refusal.value()};
     return {std::make_unique<UsblpEndpoint>(std::move(device)), 0};
 }
 

@@ -1,6 +1,7 @@
 #include "xml_tree.h"
 
 #include <QXmlSimpleReader>
+#include <memory>
 
 namespace q7
 {
@@ -125,16 +126,23 @@ XmlTree::XmlTree(const QByteArray& text)
 {
     TextInPieces source(text);
     XmlTreeBuilder builder(*this);
-    QXmlSimpleReader reader;
+    auto owner = std::make_unique<QXmlSimpleReader>();
+    QXmlSimpleReader& reader = *owner;
     reader.setFeature(QStringLiteral("http://xml.org/sax/features/namespaces"), false);
     reader.setFeature(QStringLiteral("http://xml.org/sax/features/namespace-prefixes"), true);
     reader.setFeature(
         QStringLiteral("http://trolltech.com/xml/features/report-whitespace-only-CharData"), false);
     reader.setContentHandler(&builder);
     reader.setLexicalHandler(&builder);
-    // What was read before an error goes too.
-    if (!reader.parse(source))
-        m_nodes.resize(1, m_nodes.front());
+    try {
+        // What was read before an error goes too.
+        if (!reader.parse(source))
+            m_nodes.resize(1, m_nodes.front());
+    } catch (...) {
+        // Left behind: where memory has run out, its end would free what it has freed already.
+        static_cast<void>(owner.release());
+        throw;
+    }
     m_nodes.front().end = static_cast<int>(m_nodes.size());
 }
 

@@ -1,5 +1,6 @@
 #include "printer_object.h"
 
+#include "everlasting.h"
 #include "export_frame.h"
 #include "port_text.h"
 
@@ -9,13 +10,13 @@ namespace
 {
 
 // Never destroyed, like the session on which it works.
-PrinterObject& theObject = *new PrinterObject;
+Everlasting<PrinterObject> theObject;
 
 } // namespace
 
 PrinterObject& printerObject()
 {
-    return theObject;
+    return *theObject;
 }
 
 int PrinterObject::create(const char* modelName)

@@ -1,5 +1,6 @@
 #include "printer_session.h"
 
+#include "everlasting.h"
 #include "fiscal_settings.h"
 #include "log.h"
 #include "version.h"
@@ -10,13 +11,13 @@ namespace
 {
 
 // Never destroyed: an open connection is closed by FechaConexaoImpressora alone.
-PrinterSession& theSession = *new PrinterSession;
+Everlasting<PrinterSession> theSession;
 
 } // namespace
 
 PrinterSession& session()
 {
-    return theSession;
+    return *theSession;
 }
 
 PrinterSession::PrinterSession()

@@ -1,5 +1,7 @@
 #include "guest.h"
 
+#include "everlasting.h"
+
 #include <csignal>
 #include <dlfcn.h>
 #include <mutex>
@@ -20,7 +22,6 @@ struct OwnThread::Thread {
 namespace
 {
 
-/** What outlives all static objects: exports may be called from destructors of the program's. */
 struct Guest {
     std::recursive_mutex turn;
     std::mutex threadsMutex;
@@ -30,8 +31,8 @@ struct Guest {
 
 Guest& guest()
 {
-    static auto& theGuest = *[] {
-        auto* made = new Guest;
+    static Everlasting<Guest> theGuest;
+    static const bool isReadyForForks = [] {
         // A lock that another thread had in the parent would never come free here.
         ::pthread_atfork(nullptr, nullptr, [] {
             Guest& child = guest();
@@ -40,9 +41,10 @@ Guest& guest()
             child.threads.clear();
             ++child.forkCount;
         });
-        return made;
+        return true;
     }();
-    return theGuest;
+    static_cast<void>(isReadyForForks);
+    return *theGuest;
 }
 
 OwnThread* anyThread()

@@ -23,7 +23,7 @@ constexpr quint16 vendorOfDunel = 0x1A05;
 constexpr quint16 vendorOfTesmo = 0x1A06;
 
 // Constant, not built at start-up: the session is made while the library loads and reads it.
-constexpr PrinterModel builtInModels[] = {
+constexpr PrinterModels builtInModels = {{
     {0, "VANTA", vendorOfVanta, 0x0001, 16, 15, 0, 48, 64},
     {1, "VESPA", vendorOfVanta, 0x0002, 16, 15, 0, 48, 64},
     {VoltaModel, "VOLTA", vendorOfVolta, 0x0001, 16, 180, 1, 48, 64},
@@ -35,19 +35,19 @@ constexpr PrinterModel builtInModels[] = {
     {8, "SALVI", vendorOfSorbe, 0x0002, 16, 15, 0, 48, 64},
     {DunelModel, "DUNEL", vendorOfDunel, 0x0001, 16, 15, 0, 48, 64},
     {11, "TESMO", vendorOfTesmo, 0x0001, 16, 15, 0, -1, -1},
-};
+}};
 
-std::vector<PrinterModel> buildTable()
+PrinterModels buildTable()
 {
-    std::vector<PrinterModel> models(std::begin(builtInModels), std::end(builtInModels));
+    PrinterModels models = builtInModels;
     applyUsbIdentifiers(models, IniFile(pathInDataFolder("q7_usb.ini")));
     return models;
 }
 
 template <typename Predicate> const PrinterModel* findModel(Predicate predicate)
 {
-    const std::vector<PrinterModel>& models = modelTable();
-    const auto row = std::find_if(models.begin(), models.end(), predicate);
+    const PrinterModels& models = modelTable();
+    const auto* const row = std::find_if(models.begin(), models.end(), predicate);
     return row == models.end() ? nullptr : &*row;
 }
 
@@ -70,10 +70,10 @@ void readIdentifier(const IniFile& settings, const PrinterModel& model, const ch
 
 } // namespace
 
-const std::vector<PrinterModel>& modelTable()
+const PrinterModels& modelTable()
 {
-    // Never destroyed: a program may print from a destructor of its own at its end.
-    static const auto& models = *new std::vector<PrinterModel>(buildTable());
+    // Nothing in it is destroyed: a program may print from a destructor of its own at its end.
+    static const PrinterModels models = buildTable();
     return models;
 }
 
@@ -98,7 +98,7 @@ QString makeUsbIdText(const QString& modelName)
     return ("VID_" + vendor + "&PID_" + product).toUpper();
 }
 
-void applyUsbIdentifiers(std::vector<PrinterModel>& models, const IniFile& settings)
+void applyUsbIdentifiers(PrinterModels& models, const IniFile& settings)
 {
     for (PrinterModel& model : models) {
         readIdentifier(settings, model, "vendor_id", model.vendorId);

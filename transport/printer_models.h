@@ -5,7 +5,7 @@
 
 #include <QByteArray>
 #include <QString>
-#include <vector>
+#include <array>
 
 namespace q7
 {
@@ -23,6 +23,8 @@ struct PrinterModel {
     int width2; // columns of the small font, in which fiscal receipts are set
 };
 
+using PrinterModels = std::array<PrinterModel, 11>;
+
 /** The models with rules of their own. */
 enum ModelId : int {
     VoltaModel = 2,
@@ -33,7 +35,7 @@ enum ModelId : int {
 
 /** The rows, in the order in which a printer's reply is searched for their names. Built once when
  *  the library loads, USB identifiers of "q7_usb.ini" included. */
-const std::vector<PrinterModel>& modelTable();
+const PrinterModels& modelTable();
 
 /** The row with this number, or null. */
 const PrinterModel* modelById(int id);
@@ -48,6 +50,6 @@ QString makeUsbIdText(const QString& modelName);
 /** Replaces the USB identifiers of rows by those of an INI file: a group per model name, keys
  *  "vendor_id" and "product_id" of one to four hexadecimal digits. Anything else is ignored and
  *  logged. */
-void applyUsbIdentifiers(std::vector<PrinterModel>& models, const IniFile& settings);
+void applyUsbIdentifiers(PrinterModels& models, const IniFile& settings);
 
 } // namespace q7

@@ -52,7 +52,7 @@ TEST(Models, TakeTheIdentifiersOfASite)
                            "[VESPA]\nvendor_id=0FFFF\nproduct_id=0x12\n"
                            "[TESMO]\nproduct_id=FfFf\nvendor_id=\n"
                            "[XPTO]\nvendor_id=1\n");
-    std::vector<PrinterModel> models = modelTable();
+    PrinterModels models = modelTable();
     applyUsbIdentifiers(models, IniFile(data.path() + "/site.ini"));
     EXPECT_EQ(0x0ABC, models[0].vendorId);
     EXPECT_EQ(0x0012, models[0].productId);

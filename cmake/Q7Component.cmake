@@ -24,6 +24,14 @@ if(Q7_SANITIZE)
     target_link_options(q7_compile_options INTERFACE -fsanitize=address,undefined)
 endif()
 
+if(Q7_SANITIZE_THREADS)
+    target_compile_options(q7_compile_options INTERFACE -fsanitize=thread -fno-omit-frame-pointer)
+    target_link_options(q7_compile_options INTERFACE -fsanitize=thread)
+endif()
+if(Q7_FUZZ)
+    target_compile_options(q7_compile_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()
+
 # q7_component(NAME SOURCES ... LINKS ...): one folder of the library as a static library. Its
 # headers are reached only through its own folder, so a target sees exactly what it links.
 function(q7_component name)

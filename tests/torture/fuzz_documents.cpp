@@ -1,0 +1,32 @@
+// The three exports that print a document, over an open link, for documents of all sorts. The last
+// byte of an input chooses the export, the one before it the options.
+
+#include "hostile_printer.h"
+#include "q7_impressora.h"
+#include "sample_receipts.h"
+#include "xml_mutator.h"
+
+#include <cstdlib>
+
+using namespace q7test;
+
+extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t size,
+                                               std::size_t mostSize, unsigned seed)
+{
+    return mutateXml(data, size, mostSize, seed);
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    static HostilePrinter printer(HostilePrinter::Line::Tcp);
+    static const bool isOpen = openOn(printer) == 0;
+    if (!isOpen || size < 2)
+        return 0;
+    SampleReceipt receipt = sampleReceipts()[data[size - 1] % sampleReceipts().size()];
+    receipt.options = data[size - 2] | (data[size - 1] & 0x0C) << 7;
+    const int result = receipt.print(std::string(reinterpret_cast<const char*>(data), size - 2));
+    // Nothing that a document says ends the link, and a printed one is a success.
+    if (result > 0 || FeedLine(nullptr, 1) != 0)
+        std::abort();
+    return 0;
+}

@@ -1,0 +1,49 @@
+// Any bytes as the printer's answer to whatever it is asked.
+
+#include "hostile_printer.h"
+#include "q7_impressora.h"
+#include "sample_receipts.h"
+
+#include <cstdlib>
+#include <cstring>
+
+using namespace q7test;
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    static HostilePrinter printer(HostilePrinter::Line::Tcp);
+    if (size < 2)
+        return 0;
+    const std::string reply(reinterpret_cast<const char*>(data) + 1, size - 1);
+    if (data[0] >= 0xC0) { // the model's name
+        printer.answerWith(reply);
+        const int result = openOn(printer);
+        if (result != Q7_OK && result != Q7_ERR_MODEL && result != Q7_ERR_UNKNOWN_PRINTER)
+            std::abort();
+        FechaConexaoImpressora();
+        return 0;
+    }
+    printer.answerWith({});
+    if (openOn(printer) != 0)
+        std::abort();
+    printer.answerWith(reply);
+    const int kind = data[0] % 16;
+    if (data[0] < 0x40) {
+        char* const name = IdImpressora(kind % 7);
+        if (std::strlen(name) > 3 * reply.size() + 5)
+            std::abort();
+        std::free(name);
+    } else if (data[0] < 0x80) {
+        const int state = StatusImpressora(kind % 7 - 1);
+        if (state > 9)
+            std::abort();
+    } else {
+        std::string buffer(65536, '\0'); // the size given is no bound
+        unsigned length = kind;
+        if (DirectIO("\x10\x04\x01", 3, buffer.data(), &length) == 0 &&
+            (length > reply.size() || buffer.compare(0, length, reply, 0, length) != 0))
+            std::abort();
+    }
+    FechaConexaoImpressora();
+    return 0;
+}

@@ -46,7 +46,7 @@ std::string publicType(Kind kind)
 
 std::string argument(const Parameter& parameter)
 {
-    const std::string name = nameOf(parameter);
+    std::string name = nameOf(parameter);
     switch (parameter.kind) {
     case Kind::Text:
         return "Utf8(" + name + ")";

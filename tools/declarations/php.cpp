@@ -88,21 +88,24 @@ std::string method(const Function& function)
 {
     std::string before;
     std::string after;
-    std::string buffer; // whose count comes behind it
+    std::string buffer;
     for (const Parameter& parameter : function.parameters) {
-        const std::string& name = parameter.name;
-        const std::string type = parameter.kind == Kind::CountInOut ? "unsigned int" : "int";
+        // "@" stands for the argument's name, "#" for that of the buffer in front of it.
+        const auto add = [&](std::string& text, const char* pattern) {
+            text += replaced(replaced(pattern, "@", parameter.name), "#", buffer);
+        };
         if (parameter.kind == Kind::Buffer) {
-            before +=
-                "        $_" + name + " = FFI::new('char[' . self::Q7_LONGEST_REPLY . ']');\n";
-            buffer = name;
+            add(before, "        $_@ = FFI::new('char[' . self::Q7_LONGEST_REPLY . ']');\n");
+            buffer = parameter.name;
         } else if (parameter.kind == Kind::NumberOut || parameter.kind == Kind::CountInOut) {
-            before += "        $_" + name + " = FFI::new('" + type + "');\n        $_" + name +
-                      "->cdata = $" + name + " ?? -1;\n";
-            after += "        $" + name + " = $_" + name + "->cdata;\n";
+            add(before, parameter.kind == Kind::NumberOut
+                            ? "        $_@ = FFI::new('int');\n"
+                            : "        $_@ = FFI::new('unsigned int');\n");
+            add(before, "        $_@->cdata = $@ ?? -1;\n");
+            add(after, "        $@ = $_@->cdata;\n");
             if (!buffer.empty())
-                after += "        $" + buffer + " = $resultado === self::Q7_OK ? FFI::string($_" +
-                         buffer + ", $" + name + ") : null;\n";
+                add(after,
+                    "        $# = $resultado === self::Q7_OK ? FFI::string($_#, $@) : null;\n");
         }
     }
     const std::string call = "self::biblioteca()->" + function.name + "(" +

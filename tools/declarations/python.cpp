@@ -95,7 +95,7 @@ std::string ctype(Kind kind)
 
 std::string signature(const Parameter& parameter)
 {
-    const std::string name = nameOf(parameter);
+    std::string name = nameOf(parameter);
     if (parameter.kind == Kind::Handle)
         return name; // anything, None too
     return name + ": " + hint(parameter.kind) + (parameter.kind == Kind::NumberOut ? " = -1" : "");
@@ -103,7 +103,7 @@ std::string signature(const Parameter& parameter)
 
 std::string argument(const Parameter& parameter)
 {
-    const std::string name = nameOf(parameter);
+    std::string name = nameOf(parameter);
     switch (parameter.kind) {
     case Kind::Text:
         return "_utf8(" + name + ")";
@@ -149,18 +149,20 @@ std::string definition(const Function& function)
     std::string text = pythonSignature(function) + ":\n" + documentation(function);
     std::string results;
     for (const Parameter& parameter : function.parameters) {
-        const std::string name = nameOf(parameter);
+        // "@" stands for the argument's name.
+        const auto named = [&](const char* pattern) {
+            return replaced(pattern, "@", nameOf(parameter));
+        };
         if (parameter.kind == Kind::NumberOut) {
-            text += "    _" + name + " = ctypes.c_int(" + name + ")\n";
-            results += ", _" + name + ".value";
+            text += named("    _@ = ctypes.c_int(@)\n");
+            results += named(", _@.value");
         } else if (parameter.kind == Kind::CountInOut) {
-            text += "    _" + name + " = ctypes.c_uint(" + name + ")\n";
+            text += named("    _@ = ctypes.c_uint(@)\n");
             // The count belongs to the buffer in front of it.
-            results =
-                replaced(results, "[:]", "[:_" + name + ".value if resultado == Q7_OK else 0]");
+            results = replaced(results, "[:]", named("[:_@.value if resultado == Q7_OK else 0]"));
         } else if (isBuffer(parameter)) {
-            text += "    _" + name + " = ctypes.create_string_buffer(Q7_LONGEST_REPLY)\n";
-            results += ", _" + name + "[:]";
+            text += named("    _@ = ctypes.create_string_buffer(Q7_LONGEST_REPLY)\n");
+            results += named(", _@[:]");
         }
     }
     const std::string call =

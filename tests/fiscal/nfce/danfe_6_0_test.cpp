@@ -382,24 +382,27 @@ INSTANTIATE_TEST_SUITE_P(Nfce, EveryModel, testing::ValuesIn(models), [](const a
 
 TEST_F(Danfe6_0, LabelsEveryCopyByItself)
 {
-    openModel("VANTA");
-    const std::string xml = document(contingencyNote);
-    const auto labels = [&](int options) { // of each copy whether it is the establishment's
-        std::string letters;
-        for (const DrawnReceipt& copy : drawn(printed(xml, options), "VANTA"))
-            letters += copy.text.find("18:42:07 Via do Estabelecimento\n") == std::string::npos
-                           ? 'c'
-                           : 'e';
-        return letters;
-    };
-    constexpr int singleCopy = 0x200;
-    EXPECT_EQ(labels(0), "ce");
-    EXPECT_EQ(labels(singleCopy), "c");
-    EXPECT_EQ(labels(0), "ce");
-    FechaConexaoImpressora();
-    openModel("VANTA");
-    EXPECT_EQ(labels(singleCopy), "c");
-    EXPECT_EQ(labels(0), "ce");
+    const std::string note = document(contingencyNote);
+    // With its QR code below the text, and beside it.
+    for (const std::string& xml : {note, withQrText(note, qrTextOfSize(200))}) {
+        const auto labels = [&](int options) { // of each copy whether it is the establishment's
+            std::string letters;
+            for (const DrawnReceipt& copy : drawn(printed(xml, options), "VANTA"))
+                letters +=
+                    copy.text.find("Via do Estabelecimento\n") == std::string::npos ? 'c' : 'e';
+            return letters;
+        };
+        constexpr int singleCopy = 0x200;
+        openModel("VANTA");
+        EXPECT_EQ(labels(0), "ce");
+        EXPECT_EQ(labels(singleCopy), "c");
+        EXPECT_EQ(labels(0), "ce");
+        FechaConexaoImpressora();
+        openModel("VANTA");
+        EXPECT_EQ(labels(singleCopy), "c");
+        EXPECT_EQ(labels(0), "ce");
+        FechaConexaoImpressora();
+    }
 }
 
 // Hashes from sha1sum.

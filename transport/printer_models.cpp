@@ -12,31 +12,6 @@ namespace q7
 namespace
 {
 
-// Placeholders: the makers' own identifiers are not known here, and a site enters its printer's in
-// "q7_usb.ini". What holds is who shares with whom: three models one maker, three another, two a
-// third, and ORLA-K and RANZA the same product as well.
-constexpr quint16 vendorOfVanta = 0x1A01;
-constexpr quint16 vendorOfVolta = 0x1A02;
-constexpr quint16 vendorOfSorbe = 0x1A03;
-constexpr quint16 vendorOfPinta = 0x1A04;
-constexpr quint16 vendorOfDunel = 0x1A05;
-constexpr quint16 vendorOfTesmo = 0x1A06;
-
-// Constant, not built at start-up: the session is made while the library loads and reads it.
-constexpr PrinterModels builtInModels = {{
-    {0, "VANTA", vendorOfVanta, 0x0001, 16, 15, 0, 48, 64},
-    {1, "VESPA", vendorOfVanta, 0x0002, 16, 15, 0, 48, 64},
-    {VoltaModel, "VOLTA", vendorOfVolta, 0x0001, 16, 180, 1, 48, 64},
-    {OrlaKModel, "ORLA-K", vendorOfVolta, 0x0002, 16, 150, 1, 42, 56},
-    {4, "PINTA", vendorOfPinta, 0x0001, 16, 15, 0, 48, 64},
-    {5, "RANZA", vendorOfVolta, 0x0002, 16, 15, 0, -1, -1},
-    {6, "RANZAPRO", vendorOfVanta, 0x0003, 16, 15, 0, -1, -1},
-    {SorbeModel, "SORBE", vendorOfSorbe, 0x0001, 16, 15, 0, 42, 56},
-    {8, "SALVI", vendorOfSorbe, 0x0002, 16, 15, 0, 48, 64},
-    {DunelModel, "DUNEL", vendorOfDunel, 0x0001, 16, 15, 0, 48, 64},
-    {11, "TESMO", vendorOfTesmo, 0x0001, 16, 15, 0, -1, -1},
-}};
-
 PrinterModels buildTable()
 {
     PrinterModels models = builtInModels;

@@ -1,37 +1,14 @@
-// The table of printer models: names, USB identifiers and layout values.
+// The table of printer models as it is in force: with the USB identifiers of this site.
 #pragma once
 
 #include "ini_file.h"
+#include "model_rows.h"
 
 #include <QByteArray>
 #include <QString>
-#include <array>
 
 namespace q7
 {
-
-/** One row of the table. Widths in columns; -1 where the model is no receipt printer. */
-struct PrinterModel {
-    int id;            // model number; the numbering skips 10
-    const char* name;  // in capitals, as callers pass it and printers report it
-    quint16 vendorId;  // USB
-    quint16 productId; // USB
-    int codeTable;     // ESC t n
-    int qrOffsetLow;   // GS $ nL nH: where the NFC-e places its QR code in page mode
-    int qrOffsetHigh;
-    int width1; // columns of the normal font
-    int width2; // columns of the small font, in which fiscal receipts are set
-};
-
-using PrinterModels = std::array<PrinterModel, 11>;
-
-/** The models with rules of their own. */
-enum ModelId : int {
-    VoltaModel = 2,
-    OrlaKModel = 3,
-    SorbeModel = 7,
-    DunelModel = 9,
-};
 
 /** The rows, in the order in which a printer's reply is searched for their names. Built once when
  *  the library loads, USB identifiers of "q7_usb.ini" included. */

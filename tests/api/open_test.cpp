@@ -1,12 +1,12 @@
 // Opening, the model check and closing.
 
+#include "deaf_port.h"
 #include "export_fixture.h"
 
 #include <algorithm>
 #include <cstring>
 #include <dlfcn.h>
 #include <netdb.h>
-#include <netinet/in.h>
 #include <strings.h>
 #include <unistd.h>
 
@@ -40,24 +40,6 @@ int openAt(const char* host, int port, const char* model = "VANTA")
 const std::string zero(1, '\0');
 
 constexpr int refusingPort = 1; // of 127.0.0.1: nobody listens there
-
-/** A port of 127.0.0.1 that lets connections neither succeed nor fail: the queue of those that nobody
- *  accepts is full, until the process ends. */
-int deafPort()
-{
-    sockaddr_in address = {};
-    socklen_t size = sizeof address;
-    auto* generic = reinterpret_cast<sockaddr*>(&address);
-    address.sin_family = AF_INET;
-    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    const int listener = socket(AF_INET, SOCK_STREAM, 0);
-    EXPECT_EQ(0, bind(listener, generic, size));
-    EXPECT_EQ(0, listen(listener, 0));
-    EXPECT_EQ(0, getsockname(listener, generic, &size));
-    for (int client = 0; client < 4; ++client)
-        connect(socket(AF_INET, SOCK_STREAM | SOCK_NONBLOCK, 0), generic, size);
-    return ntohs(address.sin_port);
-}
 
 class Open : public ExportTest
 {

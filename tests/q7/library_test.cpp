@@ -1,0 +1,72 @@
+// The library beside the tool: there, missing, of another kind, of another version.
+
+#include "q7_impressora.h"
+#include "tool.h"
+
+using namespace q7test;
+
+namespace
+{
+
+using ToolLibrary = Tool;
+
+TEST_F(ToolLibrary, IsFoundAndNamed)
+{
+    const nlohmann::json answer = ask({"--versao"}, 0);
+    EXPECT_EQ(Q7_VERSION_TEXT, answer["q7"]);
+    EXPECT_EQ(Q7_VERSION_TEXT, answer["versao_biblioteca"]);
+    EXPECT_EQ(Q7_LIBRARY, answer["biblioteca"]);
+}
+
+TEST_F(ToolLibrary, ThatDoesNotServeIsSaidInWords)
+{
+    data.write("libtexto.so", "texto");
+    data.write("lib32.so", std::string("\x7F"
+                                       "ELF\x01\x01\x01",
+                                       7) +
+                               std::string(200, '\0'));
+    data.write("lib64.so", std::string("\x7F"
+                                       "ELF\x02\x01\x01",
+                                       7) +
+                               std::string(200, '\0'));
+    const std::string folder = data.path() + '/';
+    const struct {
+        std::string library;
+        std::string happened; // how it begins
+    } rows[] = {
+        {folder + "nada.so", "A biblioteca " + folder + "nada.so não foi encontrada."},
+        {folder + "libtexto.so", folder + "libtexto.so não é uma biblioteca deste sistema."},
+        {folder + "lib32.so", "A biblioteca " + folder +
+                                  "lib32.so é de 32 bits e este programa é de 64: um não carrega "
+                                  "o outro."},
+        {folder + "lib64.so", "A biblioteca " + folder + "lib64.so não pôde ser carregada: "},
+        {Q7_OTHER_VERSION, Q7_OTHER_VERSION " é da versão 00.09.00 e não tem a função "},
+    };
+    for (const auto& row : rows) {
+        for (const std::vector<std::string>& command :
+             {std::vector<std::string>{"--versao"}, {"estado", "-i", "VANTA@usb"}}) {
+            std::vector<std::string> arguments = command;
+            arguments.insert(arguments.end(), {"--biblioteca", row.library});
+            const ProgramResult result = run(arguments);
+            EXPECT_EQ(1, result.exitCode) << row.library;
+            EXPECT_NE(std::string::npos, result.output.find("O que houve: " + row.happened))
+                << result.output;
+            EXPECT_NE(std::string::npos,
+                      result.output.find("\nCódigo: saída 1 do q7\nO que fazer: "));
+        }
+    }
+}
+
+TEST_F(ToolLibrary, CodesAreExplainedFromItsHeader)
+{
+    const nlohmann::json answer = ask({"erro", "-13"}, 0);
+    EXPECT_EQ("Q7_ERR_SERIAL_DENIED", answer["nome"]);
+    EXPECT_EQ("Porta serial em uso ou sem permissão", answer["significado"]);
+    EXPECT_NE(std::string::npos, answer["o_que_fazer"].get<std::string>().find("dialout"));
+    EXPECT_EQ(answer, ask({"erro", "q7_err_serial_denied"}, 0));
+    EXPECT_EQ(-9999, ask({"erro"}, 0)["codigos"].back()["codigo"]);
+    ask({"erro", "-1"}, 2);
+    ask({"erro", "nada"}, 2);
+}
+
+} // namespace

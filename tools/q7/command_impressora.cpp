@@ -22,26 +22,29 @@ Exit serve(const VirtualPrinterOptions& options, Answer& answer)
 {
     const virtual_printer::Model* model = virtual_printer::findModel(options.model);
     if (model == nullptr)
-        throw Failure{Exit::Usage, "O modelo \"" + options.model + "\" não existe.",
-                      "Os modelos são " + allModelNames() + '.', {}};
+        throw Failure{Exit::Usage,
+                      "O modelo \"" + options.model + "\" não existe.",
+                      "Os modelos são " + allModelNames() + '.',
+                      {}};
     printer_page::PrinterPageSettings settings;
     settings.printer.model = *model;
     settings.printer.port = options.port;
     settings.pagePort = options.pagePort;
     try {
         printer_page::PrinterPage page(settings);
-        const std::string address = std::string(model->name) + "@net:127.0.0.1:" +
-                                    std::to_string(page.printerPort());
+        const std::string address =
+            std::string(model->name) + "@net:127.0.0.1:" + std::to_string(page.printerPort());
         // At once, for those who wait for it.
         answer.record({{"impressora", address}, {"pagina", page.pageAddress()}},
                       "Impressora: " + address + "\nPágina: " + page.pageAddress() +
                           "\nCtrl+C termina.");
         page.run();
     } catch (const std::system_error& error) {
-        throw Failure{Exit::Usage,
-                      std::string("A impressora virtual não pôde começar: ") + error.what() + '.',
-                      "Se a porta já está em uso, escolha outra com --porta ou --pagina (0: qualquer).",
-                      {}};
+        throw Failure{
+            Exit::Usage,
+            std::string("A impressora virtual não pôde começar: ") + error.what() + '.',
+            "Se a porta já está em uso, escolha outra com --porta ou --pagina (0: qualquer).",
+            {}};
     }
     return Exit::Done;
 }
@@ -55,7 +58,8 @@ void addImpressora(const CommandLine& line)
     auto options = std::make_shared<VirtualPrinterOptions>();
     command->add_option("--porta", options->port, "A porta da impressora; 9100, ou 0 para qualquer")
         ->option_text("N");
-    command->add_option("--pagina", options->pagePort, "A porta da página; 8080, ou 0 para qualquer")
+    command
+        ->add_option("--pagina", options->pagePort, "A porta da página; 8080, ou 0 para qualquer")
         ->option_text("N");
     command->add_option("--modelo", options->model, "O modelo de que ela faz as vezes; VANTA")
         ->option_text("MODELO");

@@ -20,7 +20,7 @@ class Arguments
 public:
     Arguments(const std::uint8_t* data, std::size_t size) : m_data(data, size) {}
 
-    bool areLeft() const { return m_data.remaining_bytes() > 0; }
+    bool areLeft() { return m_data.remaining_bytes() > 0; }
     std::size_t choice(std::size_t count)
     {
         return m_data.ConsumeIntegralInRange<std::size_t>(0, count - 1);
@@ -88,11 +88,15 @@ const std::function<void(Arguments&)> exports[] = {
         ImprimeXMLNFCe(document, a.number(), a.text(), a.number());
     },
     [](auto& a) { PrinterCreator(handle, a.text()); },
-    // Hosts and devices of this machine are left alone.
+    // Hosts and devices of this machine are left alone; an open link would be abandoned.
     [](auto& a) {
+        FechaConexaoImpressora();
         PortOpen(handle, ("COM?" + std::string(a.text() == nullptr ? "," : "9,")).c_str());
     },
-    [](auto& a) { AbreConexaoImpressora(a.number() % 3, a.text(), "no/such/port", a.number()); },
+    [](auto& a) {
+        FechaConexaoImpressora();
+        AbreConexaoImpressora(a.number() % 3, a.text(), "no/such/port", a.number());
+    },
     [](auto& a) { PrintText(handle, a.text(), a.number(), a.number(), a.number()); },
     [](auto& a) { PrintTextS(handle, a.text()); },
     [](auto& a) { SetAlign(handle, a.number()); },

@@ -60,7 +60,8 @@ public:
         if (!isFurtherPart) {
             if (std::optional<LogRecord> next = beginningOf(text)) {
                 end();
-                m_record = std::move(next);
+                m_record = std::move(*next);
+                m_hasRecord = true;
                 return;
             }
             append("\n");
@@ -70,27 +71,28 @@ public:
 
     void end()
     {
-        if (!m_record)
+        if (!m_hasRecord)
             return;
-        std::string& message = m_record->message;
-        if (m_record->cutOff == 0 && !message.empty() && message.back() == ']')
+        std::string& message = m_record.message;
+        if (m_record.cutOff == 0 && !message.empty() && message.back() == ']')
             message.pop_back();
-        m_take(*m_record);
-        m_record.reset();
+        m_take(m_record);
+        m_hasRecord = false;
     }
 
 private:
     void append(std::string_view text)
     {
-        if (!m_record)
+        if (!m_hasRecord)
             return;
-        const std::size_t room = longestLogMessage - m_record->message.size();
-        m_record->message.append(text.substr(0, room));
-        m_record->cutOff += text.size() - std::min(room, text.size());
+        const std::size_t room = longestLogMessage - m_record.message.size();
+        m_record.message.append(text.substr(0, room));
+        m_record.cutOff += text.size() - std::min(room, text.size());
     }
 
     const std::function<void(const LogRecord&)>& m_take;
-    std::optional<LogRecord> m_record;
+    LogRecord m_record;
+    bool m_hasRecord = false;
 };
 
 } // namespace

@@ -34,8 +34,8 @@ int bitsOf(const std::string& path)
     if (byte(header) != 'P' || byte(header + 1) != 'E')
         return 0;
     const unsigned machine = byte(header + 4) | byte(header + 5) << 8U;
-    constexpr unsigned i386 = 0x14C;
-    return machine == i386 ? 32 : 64;
+    constexpr unsigned machine32 = 0x14C;
+    return machine == machine32 ? 32 : 64;
 }
 
 Failure notLoaded(const std::string& path, const std::string& reason)

@@ -157,7 +157,7 @@ int Q7_CALL DirectIO(const char* comando, int tamanho, char* resposta,
         if (status == Q7_OK) {
             const std::string& reply = printer.replyData;
             *tamanhoResposta = static_cast<unsigned int>(reply.size());
-            std::memcpy(resposta, reply.data(), reply.size());
+            reply.copy(resposta, reply.size());
         }
         return status;
     });

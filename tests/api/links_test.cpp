@@ -232,7 +232,7 @@ TEST_F(Links, AGarbageCountEndsSoon)
     script.readBytesAtMost = 3; // the model query
     const TcpPrinter printer(script);
     ASSERT_EQ(0, openOn(printer));
-    EXPECT_LT(durationOf([] { EXPECT_EQ(0, AvancaPapel(20'000'000)); }), seconds(20));
+    ImpressaoTexto(std::string(60 << 20, 'x').c_str(), 0, 0, 0); // most of what may wait
     EXPECT_LT(durationOf([] { EXPECT_EQ(-44, AvancaPapel(INT_MAX)); }), seconds(20));
     EXPECT_EQ(-44, Corte(INT_MAX));
     EXPECT_EQ(-44, ImpressaoTexto("x", 0, 0, 0));

@@ -25,7 +25,7 @@ constexpr char plainText[] = "text/plain; charset=utf-8";
 
 /** Every open page holds a thread for its events; the rest answer requests. */
 constexpr int mostEventStreams = 8;
-constexpr std::size_t serverThreads = 2 * mostEventStreams;
+constexpr std::size_t serverThreads = std::size_t{2} * mostEventStreams;
 
 const char* typeOf(const std::string& file)
 {

@@ -38,7 +38,7 @@ class ReceiptShelf
 public:
     struct Limits {
         std::size_t receipts = 200;
-        std::size_t bytes = 64 * 1024 * 1024; // of all receipts together
+        std::size_t bytes = std::size_t{64} << 20U; // of all receipts together
     };
     using Version = std::uint64_t;
     using Kept = std::shared_ptr<const Receipt>;

@@ -16,7 +16,7 @@ namespace q7tool
 namespace
 {
 
-constexpr std::size_t largestDocument = 32U * 1024 * 1024;
+constexpr std::size_t largestDocument = std::size_t{32} << 20U;
 constexpr int deepestLevel = 256; // the library takes no deeper document
 constexpr std::string_view nfceModel = "65";
 constexpr std::size_t idPrefixLength = 3; // "CFe" or "NFe" before the key

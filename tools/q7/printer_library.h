@@ -36,6 +36,7 @@ public:
     const std::string& path() const { return m_path; }
     const std::string& version() const { return m_version; }
 
+// NOLINTNEXTLINE(bugprone-macro-parentheses): a declaration
 #define Q7_TOOL_MEMBER(name) decltype(&::name) name = nullptr;
     Q7_TOOL_FUNCTIONS(Q7_TOOL_MEMBER)
 #undef Q7_TOOL_MEMBER

@@ -74,12 +74,34 @@ TEST_F(ToolUsage, IsCorrectedInPortuguese)
     EXPECT_EQ("Falta --impressora.", ask({"estado"}, 2)["erro"]["mensagem"]);
 }
 
+TEST_F(ToolUsage, AVirtualPrinterNeedsPortsOfItsOwn)
+{
+    const TcpPrinter other;
+    const std::string taken = std::to_string(other.port());
+    for (const std::vector<std::string>& ports :
+         {std::vector<std::string>{"--porta", taken, "--pagina", "0"},
+          {"--porta", "0", "--pagina", taken}}) {
+        std::vector<std::string> arguments = {"impressora"};
+        arguments.insert(arguments.end(), ports.begin(), ports.end());
+        const ProgramResult result = run(arguments);
+        EXPECT_EQ(2, result.exitCode);
+        EXPECT_EQ(
+            0U, result.output.find("O que houve: A impressora virtual não pôde começar na porta "));
+        EXPECT_NE(std::string::npos, result.output.find(taken)) << result.output;
+    }
+    EXPECT_EQ("O modelo \"XPTO\" não existe.",
+              ask({"impressora", "--modelo", "XPTO"}, 2)["erro"]["mensagem"]);
+}
+
 TEST_F(ToolUsage, HelpIsThereForEveryCommandAndPortuguese)
 {
     const ProgramResult all = run({"--ajuda"});
     EXPECT_EQ(0, all.exitCode);
     for (const std::vector<std::string>& command :
          std::vector<std::vector<std::string>>{{"testar"},
+                                               {"validar"},
+                                               {"visualizar"},
+                                               {"impressora"},
                                                {"estado"},
                                                {"imprimir"},
                                                {"listar"},

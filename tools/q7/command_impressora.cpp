@@ -42,7 +42,8 @@ Exit serve(const VirtualPrinterOptions& options, Answer& answer)
     } catch (const std::system_error& error) {
         throw Failure{
             Exit::Usage,
-            std::string("A impressora virtual não pôde começar: ") + error.what() + '.',
+            "A impressora virtual não pôde começar na porta " + std::to_string(options.port) +
+                ", com a página na " + std::to_string(options.pagePort) + ": " + error.what() + '.',
             "Se a porta já está em uso, escolha outra com --porta ou --pagina (0: qualquer).",
             {}};
     }

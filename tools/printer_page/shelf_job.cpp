@@ -12,7 +12,7 @@ namespace
 using namespace virtual_printer;
 
 // What is kept of one receipt; a till's receipt takes a hundredth of it.
-constexpr std::size_t mostText = 1024 * 1024;
+constexpr std::size_t mostText = std::size_t{1} << 20U;
 constexpr std::size_t mostCommands = 2 * mostText;
 constexpr std::size_t mostBytes = 2 * mostText;
 constexpr std::size_t mostPictures = 8 * mostText;

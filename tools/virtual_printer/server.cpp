@@ -358,8 +358,12 @@ Server::Server(const ServerSettings& settings, JobMaker maker)
 
 Server::~Server()
 {
-    for (const auto& connection : m_links->connections) {
-        connection->end();
+    try {
+        for (const auto& connection : m_links->connections) {
+            connection->end();
+        }
+    } catch (...) {
+        // No memory: the system closes what the process leaves.
     }
 }
 

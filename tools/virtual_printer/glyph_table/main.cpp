@@ -60,7 +60,7 @@ public:
         const Fit fit = fitOf(font);
         check(FT_Set_Pixel_Sizes(m_face, 0, fit.pixelSize), "size");
         check(FT_Load_Char(m_face, character, FT_LOAD_RENDER | FT_LOAD_TARGET_MONO), "character");
-        const FT_GlyphSlot slot = m_face->glyph;
+        FT_GlyphSlotRec_* const slot = m_face->glyph;
         const FT_Bitmap& shape = slot->bitmap;
         std::vector<unsigned> rows(static_cast<std::size_t>(cell.heightDots));
         for (int y = 0; y < static_cast<int>(shape.rows); ++y) {

@@ -70,13 +70,14 @@ make_qt() {
 
 # ------------------------------------------------------------------ libraries
 
-# cross_cmake NAME SOURCE OPTION...: a library that is built with CMake; its build folder is $build.
+# cross_cmake NAME SOURCE OPTION...: configures a library that is built with CMake, in
+# $library_build.
 cross_cmake() {
     local name=$1 source=$2
     shift 2
-    build=$target_folder/$name
-    rm -rf "$build"
-    logged "$name.configure" cmake -S "$source" -B "$build" -G Ninja \
+    library_build=$target_folder/$name
+    rm -rf "$library_build"
+    logged "$name.configure" cmake -S "$source" -B "$library_build" -G Ninja \
         -D CMAKE_TOOLCHAIN_FILE="$PWD/cmake/mingw-w64-$cpu.cmake" \
         -D CMAKE_INSTALL_PREFIX="$windows_prefix" -D CMAKE_BUILD_TYPE=MinSizeRel \
         -D CMAKE_C_FLAGS='-D_WIN32_WINNT=0x0601 -ffunction-sections -fdata-sections' "$@"
@@ -97,9 +98,9 @@ make_libxml2() {
     # Without threads it still takes those of the compiler's POSIX layer where it finds them.
     cross_cmake libxml2 "$sources/libxml2" -D BUILD_SHARED_LIBS=OFF -D HAVE_PTHREAD_H=0 \
         "${options[@]}"
-    logged libxml2.make cmake --build "$build"
-    logged libxml2.install cmake --install "$build" --component development
-    rm -rf "$build"
+    logged libxml2.make cmake --build "$library_build"
+    logged libxml2.install cmake --install "$library_build" --component development
+    rm -rf "$library_build"
 }
 
 make_zint() {
@@ -107,10 +108,10 @@ make_zint() {
     cp -a "$sources/zint" "$target_folder/zint-source"
     cross_cmake zint "$target_folder/zint-source" -D ZINT_STATIC=ON -D ZINT_USE_PNG=OFF \
         -D ZINT_USE_QT=OFF
-    logged zint.make cmake --build "$build" --target zint-static
-    cp "$(find "$build" -name '*zint*.a')" "$windows_prefix/lib/libzint.a"
+    logged zint.make cmake --build "$library_build" --target zint-static
+    cp "$(find "$library_build" -name '*zint*.a')" "$windows_prefix/lib/libzint.a"
     cp "$sources/zint/backend/zint.h" "$windows_prefix/include/"
-    rm -rf "$build" "$target_folder/zint-source"
+    rm -rf "$library_build" "$target_folder/zint-source"
 }
 
 make_lodepng() {

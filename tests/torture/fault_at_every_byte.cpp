@@ -4,13 +4,13 @@
 //   q7_fault_at_every_byte --seconds N    as many as there is time for, all of them at most
 //   q7_fault_at_every_byte --only CASE    one, as a finding names it
 //
+// With --told COMMAND behind it, TCP alone: the calls are made by a program of its own, which the
+// shell runs by that command (till.h); what it prints is held against what this process prints.
+//
 // Most of the time is waiting for printers that stand still, so cases run side by side in processes
 // of their own. Ends with 1 at the first finding.
 
-#include "hostile_printer.h"
-#include "own_resources.h"
-#include "q7_impressora.h"
-#include "sample_receipts.h"
+#include "till.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -18,6 +18,7 @@
 #include <map>
 #include <memory>
 #include <random>
+#include <stdexcept>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -31,7 +32,8 @@ using Line = HostilePrinter::Line;
 using std::chrono::milliseconds;
 using std::chrono::seconds;
 
-constexpr int workers = 24;
+constexpr int ownWorkers = 96;
+constexpr int toldWorkers = 4;
 constexpr std::size_t modelQuery = 3; // bytes before the receipt's
 // What is stated, and some for a busy machine: a hand-over of 250 ms; a status of 250 ms before and
 // 1500 ms behind its question; a close of 5 s for bytes that stand still and 500 ms for the far end.
@@ -61,15 +63,10 @@ struct Case {
     }
 };
 
-/** What was wrong; thrown. */
-struct Finding {
-    std::string what;
-};
-
 void expect(bool holds, const std::string& what)
 {
     if (!holds)
-        throw Finding{what};
+        throw std::runtime_error(what);
 }
 
 /** Calls, and holds the call to its time. */
@@ -83,79 +80,98 @@ template <typename Call> int within(milliseconds limit, const char* what, Call c
 }
 
 /** The bytes of the receipt, the model's question before it, over a link that does no harm. */
-std::string printedWell(const SampleReceipt& receipt)
+std::string printedWell(Till& till, const SampleReceipt& receipt)
 {
     HostilePrinter printer(Line::Tcp, HostilePrinter::Keep::Bytes);
-    expect(openOn(printer) == 0, "a new link does not open");
+    expect(till.open(printer) == 0, "a new link does not open");
     // Which copy of an offline note comes next survives the link: two leave it as it was.
-    expect(receipt.print() == 0, "the next receipt is not printed");
-    expect(FechaConexaoImpressora() == 0, "a sound link does not close");
+    expect(till.print(receipt) == 0, "the next receipt is not printed");
+    expect(till.close() == 0, "a sound link does not close");
     return printer.waitForClose();
 }
 
+/** As this process prints it. */
 const std::string& reference(const SampleReceipt& receipt)
 {
     static std::map<const SampleReceipt*, std::string> known;
     std::string& bytes = known[&receipt];
     if (bytes.empty())
-        bytes = printedWell(receipt);
+        bytes = printedWell(*ownTill(), receipt);
     return bytes;
 }
 
-void suffer(const Case& now)
+void suffer(Till& till, const Case& now)
 {
     const std::string& expected = reference(*now.receipt);
-    const OwnResources before;
+    till.look();
     {
         HostilePrinter printer(now.line, HostilePrinter::Keep::Nothing, now.fault, now.atByte);
-        expect(openOn(printer) == 0, "does not open");
-        const int printed = within(printLimit, "the receipt", [&] { return now.receipt->print(); });
+        expect(till.open(printer) == 0, "does not open");
+        const int printed =
+            within(printLimit, "the receipt", [&] { return till.print(*now.receipt); });
         expect(printed == 0 || (printed < 0 && now.endsTheLink()),
                "the receipt gives " + std::to_string(printed));
         expect(printer.waitForFault(), "the fault never comes");
         if (now.endsTheLink()) {
             // A call right behind another one takes its word for the link's state.
             ::usleep(2000);
-            const int next =
-                within(printLimit, "the next call", [] { return ImpressaoTexto("x", 0, 0, 0); });
+            const int next = within(printLimit, "the next call", [&] { return till.printText(); });
             expect(next == -4, "behind the loss a call gives " + std::to_string(next));
         }
-        const int status = within(statusLimit, "the status", [] { return StatusImpressora(2); });
+        const int status = within(statusLimit, "the status", [&] { return till.status(); });
         expect(now.endsTheLink() ? status == -4 : status == 3 || status == 4 || status == -81,
                "the status gives " + std::to_string(status));
-        const int closed = within(closeLimit, "the close", [] { return FechaConexaoImpressora(); });
+        const int closed = within(closeLimit, "the close", [&] { return till.close(); });
         expect(closed == (now.endsTheLink() ? -4 : 0), "the close gives " + std::to_string(closed));
     }
-    const std::string next = printedWell(*now.receipt);
+    const std::string next = printedWell(till, *now.receipt);
     expect(next == expected, "the next receipt differs");
-    expect(before.comeBack(), "descriptors or threads are left behind");
+    expect(till.isAsBefore(), "descriptors or threads are left behind");
 }
 
-std::vector<Case> allCases()
+std::vector<Case> allCases(bool areTold)
 {
     std::vector<Case> cases;
     for (const SampleReceipt& receipt : sampleReceipts())
         for (const Line line : {Line::Tcp, Line::Terminal})
             for (const auto& [name, fault] : faults)
-                if (line == Line::Tcp || (fault != Fault::Reset && fault != Fault::HalfClosed))
+                if (line == Line::Tcp ||
+                    (!areTold && fault != Fault::Reset && fault != Fault::HalfClosed))
                     for (std::size_t at = modelQuery; at <= reference(receipt).size(); ++at)
                         cases.push_back({line, name, fault, &receipt, at});
     return cases;
 }
 
+struct Campaign {
+    std::vector<Case> cases;
+    Clock::time_point end = Clock::time_point::max();
+    std::string toldCommand; // empty: this program makes the calls
+    std::string again;       // how it is run for one case, which is to follow
+    int workers = 0;
+};
+
 /** Runs the cases of one process; returns how many there were, or -1 behind a finding. */
-long work(const std::vector<Case>& cases, int worker, Clock::time_point end, const char* program)
+long work(const Campaign& campaign, int worker)
 {
+    const std::vector<Case>& cases = campaign.cases;
     long count = 0;
-    for (std::size_t i = static_cast<std::size_t>(worker); i < cases.size() && Clock::now() < end;
-         i += workers, ++count) {
-        try {
-            suffer(cases[i]);
-        } catch (const Finding& finding) {
-            std::printf("FINDING in %s: %s\nagain: %s --only %s\n", cases[i].name().c_str(),
-                        finding.what.c_str(), program, cases[i].name().c_str());
-            return -1;
+    std::string now = "the beginning";
+    try {
+        const std::unique_ptr<Till> till =
+            campaign.toldCommand.empty() ? ownTill() : toldTill(campaign.toldCommand);
+        if (!campaign.toldCommand.empty())
+            for (const SampleReceipt& receipt : sampleReceipts())
+                expect(printedWell(*till, receipt) == reference(receipt), "prints otherwise");
+        for (auto i = static_cast<std::size_t>(worker);
+             i < cases.size() && Clock::now() < campaign.end;
+             i += static_cast<std::size_t>(campaign.workers), ++count) {
+            now = cases[i].name();
+            suffer(*till, cases[i]);
         }
+    } catch (const std::exception& finding) {
+        std::printf("FINDING in %s: %s\nagain: %s %s\n", now.c_str(), finding.what(),
+                    campaign.again.c_str(), now.c_str());
+        return -1;
     }
     return count;
 }
@@ -164,32 +180,35 @@ long work(const std::vector<Case>& cases, int worker, Clock::time_point end, con
 
 int main(int argc, char** argv)
 {
-    std::vector<Case> cases;
-    Clock::time_point end = Clock::time_point::max();
-    {
-        // The library has no link while the processes are made.
-        cases = allCases();
-    }
-    if (argc != 3)
+    Campaign campaign;
+    if (argc == 5 && std::string(argv[3]) == "--told")
+        campaign.toldCommand = argv[4];
+    else if (argc != 3)
         return 2;
     const std::string what = argv[1];
+    // The library has no link while the processes are made.
+    std::vector<Case>& cases = campaign.cases;
+    cases = allCases(!campaign.toldCommand.empty());
+    const std::size_t all = cases.size();
     std::shuffle(cases.begin(), cases.end(), std::mt19937(std::random_device()()));
     if (what == "--only")
         cases.erase(std::remove_if(cases.begin(), cases.end(),
                                    [&](const Case& one) { return one.name() != argv[2]; }),
                     cases.end());
     else if (what == "--cases")
-        cases.resize(std::min(cases.size(), std::size_t(std::atol(argv[2]))), cases.front());
+        cases.resize(std::min(all, std::size_t(std::atol(argv[2]))), cases.front());
     else
-        end = Clock::now() + seconds(std::atol(argv[2]));
+        campaign.end = Clock::now() + seconds(std::atol(argv[2]));
+    campaign.workers = campaign.toldCommand.empty() ? ownWorkers : toldWorkers;
+    campaign.again = std::string(argv[0]) + " --only";
 
     int results[2] = {};
     if (::pipe(results) != 0)
         return 2;
-    for (int worker = 0; worker < workers; ++worker) {
+    for (int worker = 0; worker < campaign.workers; ++worker) {
         if (::fork() != 0)
             continue;
-        const long count = work(cases, worker, end, argv[0]);
+        const long count = work(campaign, worker);
         std::fflush(stdout);
         static_cast<void>(!::write(results[1], &count, sizeof count));
         ::_exit(count < 0 ? 1 : 0);
@@ -203,6 +222,6 @@ int main(int argc, char** argv)
     }
     for (int status = 0; ::wait(&status) > 0;)
         isSound = isSound && WIFEXITED(status) && WEXITSTATUS(status) == 0;
-    std::printf("%ld of %zu faults suffered\n", total, cases.size());
+    std::printf("%ld of %zu faults suffered\n", total, all);
     return isSound && total > 0 ? 0 : 1;
 }

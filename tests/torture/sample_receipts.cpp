@@ -11,12 +11,16 @@ namespace q7test
 namespace
 {
 
-std::string document(const char* name)
+using Kind = SampleReceipt::Kind;
+
+SampleReceipt sample(const char* name, Kind kind, int options, const std::string& document,
+                     const std::string& signature = {})
 {
-    std::ifstream file(std::string(Q7_EXAMPLE_DOCUMENTS) + '/' + name + ".xml");
+    const std::string path = "examples/documents/" + document + ".xml";
+    std::ifstream file(Q7_PROJECT_FOLDER "/" + path);
     if (!file)
-        throw std::runtime_error(std::string("no document ") + name);
-    return {std::istreambuf_iterator<char>(file), {}};
+        throw std::runtime_error("no document " + path);
+    return {name, kind, options, path, {std::istreambuf_iterator<char>(file), {}}, signature};
 }
 
 } // namespace
@@ -43,12 +47,11 @@ int SampleReceipt::print(const std::string& document) const
 
 const std::vector<SampleReceipt>& sampleReceipts()
 {
-    using Kind = SampleReceipt::Kind;
     static const std::vector<SampleReceipt> receipts = {
-        {"sale", Kind::Sale, 0, document("venda-simples"), {}},
-        {"cancellation", Kind::Cancellation, 0, document("cancelamento"), std::string(344, 'A')},
-        {"note", Kind::Note, 0x1DA, document("autorizada-consumidor-cpf"), {}},
-        {"offline-note", Kind::Note, 0, document("contingencia-offline"), {}},
+        sample("sale", Kind::Sale, 0, "venda-simples"),
+        sample("cancellation", Kind::Cancellation, 0, "cancelamento", std::string(344, 'A')),
+        sample("note", Kind::Note, 0x1DA, "autorizada-consumidor-cpf"),
+        sample("offline-note", Kind::Note, 0, "contingencia-offline"),
     };
     return receipts;
 }

@@ -17,6 +17,7 @@ struct SampleReceipt {
     const char* name;
     Kind kind;
     int options;
+    std::string path; // of its document, from the project's folder
     std::string xml;
     std::string signature; // of a cancellation
 

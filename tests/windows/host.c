@@ -45,3 +45,19 @@ AnyFunction exportOf(void* library, const char* name)
         exit(1);
     return function;
 }
+
+char* contentOf(const char* path)
+{
+    FILE* file = fopen(path, "rb");
+    if (file == NULL) {
+        fprintf(stderr, "%s cannot be read\n", path);
+        exit(1);
+    }
+    fseek(file, 0, SEEK_END);
+    const long size = ftell(file);
+    rewind(file);
+    char* content = malloc((size_t)size + 1);
+    content[fread(content, 1, (size_t)size, file)] = '\0';
+    fclose(file);
+    return content;
+}

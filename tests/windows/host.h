@@ -22,4 +22,7 @@ AnyFunction exportOf(void* library, const char* name);
 /** A local pointer to an export. */
 #define USE_EXPORT(library, name) __typeof__(&name) p##name = TYPED_EXPORT(library, name)
 
+/** What the file holds, for the caller to free, or ends the program. */
+char* contentOf(const char* path);
+
 #endif

@@ -19,22 +19,6 @@ static int report(const char* name, int result)
     return result;
 }
 
-static char* contentOf(const char* path)
-{
-    FILE* file = fopen(path, "rb");
-    if (file == NULL) {
-        printf("%s cannot be read\n", path);
-        exit(1);
-    }
-    fseek(file, 0, SEEK_END);
-    const long size = ftell(file);
-    rewind(file);
-    char* content = malloc((size_t)size + 1);
-    content[fread(content, 1, (size_t)size, file)] = '\0';
-    fclose(file);
-    return content;
-}
-
 static void printTexts(void)
 {
     CALL(ImpressaoTexto, "Promo\xC3\xA7\xC3\xA3o: p\xC3\xA3o \xE2\x82\xAC 1,00\n", 1, 8, 17);

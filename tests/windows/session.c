@@ -4,6 +4,7 @@
  *   load | free                     says whether the library is loaded then
  *   open KIND ADDRESS NUMBER | close
  *   text BYTES                      prints numbered lines, so many bytes together, in one call
+ *   sale FILE OPTIONS | cancellation FILE OPTIONS SIGNATURE | note FILE OPTIONS
  *   status KIND | id KIND
  *   hold PORT | release             opens a serial port beside the library
  *   unstoppable                     from here on the system ends no operation that is under way
@@ -33,6 +34,21 @@ static int printLines(const char* bytes)
     text[size] = '\0';
     const int result = TYPED_EXPORT(library, ImpressaoTexto)(text, 0, 0, 0);
     free(text);
+    return result;
+}
+
+/* The note's CSC is the campaigns' own. */
+static int printDocument(const char* kind, const char* path, int options, const char* signature)
+{
+    char* xml = contentOf(path);
+    int result;
+    if (strcmp(kind, "sale") == 0)
+        result = TYPED_EXPORT(library, ImprimeXMLSAT)(xml, options);
+    else if (strcmp(kind, "cancellation") == 0)
+        result = TYPED_EXPORT(library, ImprimeXMLCancelamentoSAT)(xml, signature, options);
+    else
+        result = TYPED_EXPORT(library, ImprimeXMLNFCe)(xml, 1, "TOKEN", options);
+    free(xml);
     return result;
 }
 
@@ -87,6 +103,9 @@ static int obey(const char* command, char* const* argument, char* text)
         return TYPED_EXPORT(library, FechaConexaoImpressora)();
     if (strcmp(command, "text") == 0)
         return printLines(argument[0]);
+    if (strcmp(command, "sale") == 0 || strcmp(command, "cancellation") == 0 ||
+        strcmp(command, "note") == 0)
+        return printDocument(command, argument[0], atoi(argument[1]), argument[2]);
     if (strcmp(command, "status") == 0)
         return TYPED_EXPORT(library, StatusImpressora)(atoi(argument[0]));
     if (strcmp(command, "id") == 0)

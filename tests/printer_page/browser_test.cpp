@@ -170,7 +170,11 @@ TEST_F(Page, IsSwitchedByKeyboard)
     m_browser->press("ArrowRight", 39);
     EXPECT_TRUE(waitUntil("document.querySelector('#verdict').textContent == "
                           "'Não pode imprimir: sem papel'"));
-    EXPECT_EQ(send("\x10\x04\x04", 1), "\x7E") << "the printer says so";
+    const q7test::ProgramResult state =
+        q7test::runProgram({Q7_TOOL, "estado", "--biblioteca", Q7_LIBRARY, "--impressora",
+                            "VANTA@net:127.0.0.1:" + std::to_string(m_page->printerPort())});
+    EXPECT_EQ(state.exitCode, 4);
+    EXPECT_NE(state.output.find("sem papel"), std::string::npos) << state.output;
     m_browser->press("Tab", 9);
     m_browser->press(" ", 32);
     EXPECT_TRUE(waitUntil("document.querySelector('#verdict').textContent == "

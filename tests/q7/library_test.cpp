@@ -65,6 +65,9 @@ TEST_F(ToolLibrary, CodesAreExplainedFromItsHeader)
     EXPECT_NE(std::string::npos, answer["o_que_fazer"].get<std::string>().find("dialout"));
     EXPECT_EQ(answer, ask({"erro", "q7_err_serial_denied"}, 0));
     EXPECT_EQ(-9999, ask({"erro"}, 0)["codigos"].back()["codigo"]);
+    EXPECT_EQ("sem resposta em 2000 ms", ask({"erro", "5"}, 0)["rede"]);
+    EXPECT_EQ("Input/output error", ask({"erro", "5"}, 0)["sistema"]);
+    EXPECT_EQ(7, ask({"erro", "Q7_NET_UNREACHABLE"}, 0)["codigo"]);
     ask({"erro", "-1"}, 2);
     ask({"erro", "nada"}, 2);
 }

@@ -1,5 +1,8 @@
 #include "tool.h"
 
+#include <cstdlib>
+#include <filesystem>
+
 namespace q7test
 {
 
@@ -12,6 +15,10 @@ std::string threeLines(const std::string& happened, const std::string& code,
 ProgramResult Tool::run(std::vector<std::string> arguments)
 {
     arguments.insert(arguments.begin(), Q7_TOOL);
+#ifdef __SANITIZE_ADDRESS__
+    // Its own dlopen does not look where the tool's run path says.
+    ::setenv("LD_LIBRARY_PATH", std::filesystem::path(Q7_LIBRARY).parent_path().c_str(), 0);
+#endif
     return runProgram(arguments);
 }
 

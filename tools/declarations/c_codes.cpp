@@ -15,6 +15,12 @@ std::string cppCodes(const Interface& interface)
         text += "Q7_CODE(" + code.name + ", " + std::to_string(code.value) + ",\n        " +
                 doubleQuoted(code.meaning) + ",\n        " + doubleQuoted(code.causes) +
                 ",\n        " + doubleQuoted(code.remedy) + ")\n";
+    text += "// Q7_NET(nome, valor, significado): erros da rede, que são zero ou positivos.\n";
+    for (const Enumeration& enumeration : interface.enumerations)
+        if (enumeration.name == "Q7NetError")
+            for (const Constant& error : enumeration.constants)
+                text += "Q7_NET(" + error.name + ", " + std::to_string(error.value) + ", " +
+                        doubleQuoted(error.documentation) + ")\n";
     return text + "// clang-format on\n";
 }
 

@@ -4,23 +4,45 @@
 #include "shelf_job.h"
 #include "table_glyphs.h"
 
-#include <system_error>
+#include <asio/error.hpp>
 
 namespace printer_page
 {
 
 using namespace virtual_printer;
 
+namespace
+{
+
+/** Makes what listens on that port. */
+template <typename Make> auto onPort(std::uint16_t port, Make make)
+{
+    try {
+        return make();
+    } catch (const std::system_error& error) {
+        const bool isInUse = error.code() == asio::error::address_in_use ||
+                             error.code() == std::errc::address_in_use;
+        throw PortError(port, isInUse, error.code());
+    }
+}
+
+} // namespace
+
 struct PrinterPage::Parts {
     explicit Parts(const PrinterPageSettings& settings)
         : graphics(settings.graphics),
           shelf({settings.keptReceipts, ReceiptShelf::Limits().bytes}),
-          server(settings.printer,
-                 [this](int, const Model& model) {
-                     return std::make_unique<ShelfJob>(shelf, model, glyphs, graphics);
-                 }),
+          server(onPort(settings.printer.port,
+                        [&] {
+                            return Server(settings.printer, [this](int, const Model& model) {
+                                return std::make_unique<ShelfJob>(shelf, model, glyphs, graphics);
+                            });
+                        })),
           switches(server, settings.printer),
-          page(settings.pagePort, "net:127.0.0.1:" + std::to_string(server.port()), shelf, switches)
+          page(onPort(settings.pagePort, [&] {
+              return PageServer(settings.pagePort, "net:127.0.0.1:" + std::to_string(server.port()),
+                                shelf, switches);
+          }))
     {
     }
 

@@ -6,6 +6,7 @@
 
 #include <memory>
 #include <string>
+#include <system_error>
 
 namespace printer_page
 {
@@ -17,11 +18,21 @@ struct PrinterPageSettings {
     std::size_t keptReceipts = 200;
 };
 
+/** A port could not be had. */
+struct PortError : std::system_error {
+    PortError(std::uint16_t wanted, bool inUse, const std::error_code& error)
+        : std::system_error(error), port(wanted), isInUse(inUse)
+    {
+    }
+    std::uint16_t port;
+    bool isInUse; // by another program
+};
+
 class PrinterPage
 {
 public:
     /** Opens the printer's links and the page, which 127.0.0.1 alone can reach.
-     *  Throws std::system_error, whose text names the port that could not be had. */
+     *  Throws PortError. */
     explicit PrinterPage(const PrinterPageSettings& settings);
     ~PrinterPage();
     PrinterPage(const PrinterPage&) = delete;

@@ -3,9 +3,9 @@
 #include "commands.h"
 #include "model_names.h"
 #include "printer_page.h"
+#include "system_name.h"
 
 #include <nlohmann/json.hpp>
-#include <system_error>
 
 namespace q7tool
 {
@@ -39,13 +39,15 @@ Exit serve(const VirtualPrinterOptions& options, Answer& answer)
                       "Impressora: " + address + "\nPágina: " + page.pageAddress() +
                           "\nCtrl+C termina.");
         page.run();
-    } catch (const std::system_error& error) {
-        throw Failure{
-            Exit::Usage,
-            "A impressora virtual não pôde começar na porta " + std::to_string(options.port) +
-                ", com a página na " + std::to_string(options.pagePort) + ": " + error.what() + '.',
-            "Se a porta já está em uso, escolha outra com --porta ou --pagina (0: qualquer).",
-            {}};
+    } catch (const printer_page::PortError& error) {
+        throw Failure{Exit::Usage,
+                      "A porta " + std::to_string(error.port) +
+                          (error.isInUse ? " já está em uso."
+                                         : " não pôde ser aberta: " +
+                                               systemMessage(error.code().value()) + '.'),
+                      "Escolha outra com --porta (a impressora) ou --pagina (a página); 0 é "
+                      "qualquer uma.",
+                      {}};
     }
     return Exit::Done;
 }

@@ -1,27 +1,10 @@
 #include "dynamic_library.h"
 
+#include "system_name.h"
 #include "wide_text_win.h"
 
 namespace q7tool::dynamic
 {
-namespace
-{
-
-std::string systemMessage(DWORD number)
-{
-    wchar_t* text = nullptr;
-    const DWORD length = ::FormatMessageW(
-        FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS,
-        nullptr, number, 0, reinterpret_cast<wchar_t*>(&text), 0, nullptr);
-    std::string message = utf8Of(std::wstring_view(text, length));
-    ::LocalFree(text);
-    while (!message.empty() && static_cast<unsigned char>(message.back()) <= ' ')
-        message.pop_back();
-    return message + " (erro " + std::to_string(number) + " do Windows)";
-}
-
-} // namespace
-
 const char* const fileName = "Q7_Impressora.dll";
 const bool hasLibraryPath = false;
 
@@ -29,8 +12,11 @@ void* load(const std::string& path, std::string& error)
 {
     HMODULE library =
         ::LoadLibraryExW(wideOf(path).c_str(), nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);
-    if (library == nullptr)
-        error = systemMessage(::GetLastError());
+    if (library == nullptr) {
+        const DWORD number = ::GetLastError();
+        error = systemMessage(static_cast<int>(number)) + " (erro " + std::to_string(number) +
+                " do Windows)";
+    }
     return library;
 }
 

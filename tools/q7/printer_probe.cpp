@@ -2,6 +2,7 @@
 
 #include "devices.h"
 #include "text.h"
+#include "system_name.h"
 
 #include <array>
 #include <asio.hpp>
@@ -31,7 +32,7 @@ ProbeResult ended(Outcome outcome)
 ProbeResult failed(const std::error_code& error)
 {
     ProbeResult result = ended(Outcome::Failed);
-    result.detail = error.message();
+    result.detail = systemMessage(error.value());
     return result;
 }
 

@@ -18,6 +18,15 @@ struct ResultCode {
 
 const std::vector<ResultCode>& resultCodes();
 
+/** An error of the network, as an opening over TCP gives it: zero or positive. */
+struct NetError {
+    int value;
+    std::string_view name;
+    std::string_view meaning;
+};
+
+const std::vector<NetError>& netErrors();
+
 /** Null for a number that is no result code. */
 const ResultCode* findResultCode(int value);
 

@@ -1,6 +1,7 @@
 #include "system_name.h"
 
 #include <sys/utsname.h>
+#include <system_error>
 
 namespace q7tool
 {
@@ -11,6 +12,11 @@ std::string systemName()
     if (::uname(&name) != 0)
         return "Linux";
     return std::string(name.sysname) + ' ' + name.release + ' ' + name.machine;
+}
+
+std::string systemMessage(int error)
+{
+    return std::system_category().message(error);
 }
 
 } // namespace q7tool

@@ -22,4 +22,17 @@ std::string systemName()
            (isOn64 != FALSE ? " de 64 bits" : " de 32 bits");
 }
 
+std::string systemMessage(int error)
+{
+    wchar_t* text = nullptr;
+    const DWORD length = ::FormatMessageW(
+        FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS,
+        nullptr, static_cast<DWORD>(error), 0, reinterpret_cast<wchar_t*>(&text), 0, nullptr);
+    std::string message = utf8Of(std::wstring_view(text, length));
+    ::LocalFree(text);
+    while (!message.empty() && static_cast<unsigned char>(message.back()) <= ' ')
+        message.pop_back();
+    return message;
+}
+
 } // namespace q7tool

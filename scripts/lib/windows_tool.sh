@@ -5,7 +5,7 @@
 tool_says() {
     local name=$1 status=$2 pattern=$3 ended=0
     shift 3
-    LC_ALL=C.UTF-8 wine "$(as_windows "$unpacked/q7.exe")" "$@" >"$work/tool" 2>&1 || ended=$?
+    LC_ALL=C.UTF-8 wine "$(as_windows "$unpacked/bin/q7.exe")" "$@" >"$work/tool" 2>&1 || ended=$?
     if [ "$ended" = "$status" ] && grep -q -- "$pattern" "$work/tool"; then
         ok "q7: $name"
     else
@@ -16,7 +16,7 @@ tool_says() {
 at() { printf 'VANTA@net:127.0.0.1:%s' "$(port_of "$1")"; }
 
 expect "q7: Windows 7 has what is imported" same \
-    "$(comm -23 <(imports "$unpacked/q7.exe") <(in_windows7))" ""
+    "$(comm -23 <(imports "$unpacked/bin/q7.exe") <(in_windows7))" ""
 tool_says "its library is the one beside it" 0 "^Biblioteca: Z:.*\\\\Q7_Impressora.dll" --versao
 tool_says "a library that is missing" 1 "^O que houve: A biblioteca C:.nada.dll não foi encontrada" \
     --versao --biblioteca 'C:\nada.dll'

@@ -137,7 +137,10 @@ std::vector<Case> allCases(bool areTold)
             for (const auto& [name, fault] : faults)
                 if (line == Line::Tcp ||
                     (!areTold && fault != Fault::Reset && fault != Fault::HalfClosed))
-                    for (std::size_t at = modelQuery; at <= reference(receipt).size(); ++at)
+                    // A terminal takes its answer with it: that one never opens.
+                    for (std::size_t at =
+                             modelQuery + (line == Line::Terminal && fault == Fault::Closed);
+                         at <= reference(receipt).size(); ++at)
                         cases.push_back({line, name, fault, &receipt, at});
     return cases;
 }

@@ -76,6 +76,15 @@ wine "$(as_windows "$unpacked/bin/msvc.exe")" >/dev/null 2>&1 || status=$?
 expect "Visual C++: and the program calls" same "$status" 42
 rm -f "$unpacked/bin/msvc.exe"
 
+# ------------------------------------------------------------------ the other width
+
+other=$PWD/build/windows-64/Q7_Impressora.dll
+[ "$bits" = 32 ] || other=$PWD/build/windows/Q7_Impressora.dll
+if [ -e "$other" ]; then
+    tool_says "a library of the other width" 1 "é de $((96 - bits)) bits e este programa é de $bits" \
+        --versao --biblioteca "$(as_windows "$other")"
+fi
+
 # ------------------------------------------------------------------ another Qt
 
 (cd "$work" && unzip -q "$unpacked-religar.zip")

@@ -57,8 +57,11 @@ static const char* useOnce(const char* path, const Link* link)
 
 static const char* loadOnce(const char* path, const Link* link)
 {
-    (void)link;
-    return FreeLibrary(loadLibrary(path)) ? NULL : "FreeLibrary";
+    void* library = loadLibrary(path);
+    const AnyFunction function = exportOf(library, "doNothing");
+    if (((int (*)(int))function)(link->kind) != link->kind)
+        return "doNothing";
+    return FreeLibrary(library) ? NULL : "FreeLibrary";
 }
 
 typedef const char* (*Cycle)(const char* path, const Link* link);

@@ -3,6 +3,7 @@ include(CMakePackageConfigHelpers)
 
 set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/Q7Impressora)
 set_target_properties(Q7_Impressora PROPERTIES
+    VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}
     EXPORT_NAME Q7Impressora PUBLIC_HEADER ${CMAKE_CURRENT_SOURCE_DIR}/include/q7_impressora.h)
 target_include_directories(Q7_Impressora INTERFACE
     $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)

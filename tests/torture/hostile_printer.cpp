@@ -125,6 +125,8 @@ void HostilePrinter::serve()
         ::poll(entries, 3, -1);
         if (entries[0].revents != 0)
             return;
+        if ((entries[2].revents & POLLOUT) != 0 && talksOn)
+            ::usleep(1000); // some megabytes a second: links are no faster, and others want to run
         const std::lock_guard<std::mutex> lock(m_mutex);
         if (entries[1].revents != 0)
             accept();

@@ -3,6 +3,7 @@
 #
 #   stage_package      fills $staging, build/.../package/Q7_Impressora-VERSION-winBITS
 #   make_zip FOLDER    FOLDER.zip beside it, the same bytes from the same content
+#   make_installer     $staging-instalador.exe, of what $staging holds
 #   stage_relink_kit   fills $staging-religar: our object code, and how it is linked with another Qt
 
 package_folder=$PWD/$build/package
@@ -101,6 +102,14 @@ stage_package() {
     text "$package_folder/LEIAME.txt" "$staging"
     list_content >"$package_folder/CONTEUDO.txt"
     text "$package_folder/CONTEUDO.txt" "$staging"
+}
+
+make_installer() {
+    install_packages nsis
+    makensis -V2 -INPUTCHARSET UTF8 -DVERSION="$product_version" -DBITS="$bits" \
+        -DCONTENT="$staging" -DOUTPUT="$staging-instalador.exe" packaging/windows/instalador.nsi \
+        >"$package_folder/instalador.log" 2>&1 || fail "$(cat "$package_folder/instalador.log")"
+    say "made $staging-instalador.exe"
 }
 
 stage_relink_kit() {

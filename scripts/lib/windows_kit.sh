@@ -78,11 +78,16 @@ rm -f "$unpacked/bin/msvc.exe"
 
 # ------------------------------------------------------------------ the other width
 
-other=$PWD/build/windows-64/Q7_Impressora.dll
-[ "$bits" = 32 ] || other=$PWD/build/windows/Q7_Impressora.dll
-if [ -e "$other" ]; then
-    tool_says "a library of the other width" 1 "é de $((96 - bits)) bits e este programa é de $bits" \
-        --versao --biblioteca "$(as_windows "$other")"
+# Both ways, where both are there: the continuous build has them in its second run.
+others=$((96 - bits)) other=$PWD/build/windows
+[ "$others" = 32 ] || other+=-64
+if [ -e "$other/package" ]; then
+    tool_says "a library of $others bits" 1 "é de $others bits e este programa é de $bits" \
+        --versao --biblioteca "$(as_windows "$other/Q7_Impressora.dll")"
+    unpacked=$(echo "$other"/package/*-win"$others") tool_says "that of $others bits, with one of $bits" 1 \
+        "é de $bits bits e este programa é de $others" --versao --biblioteca "$dll"
+else
+    say "without a build of $others bits: the library of the other width is left out"
 fi
 
 # ------------------------------------------------------------------ another Qt

@@ -55,15 +55,21 @@ copy_licences() {
     text "$package_folder/LICENCAS.txt" "$folder"
 }
 
-# What this build is and holds: folders with what they are for, then every file.
+# What this build is and holds: folders with what they are for, then every file, the manual's as one.
 list_content() {
-    local library
+    local library commit made_with=()
+    commit=$(git describe --always --abbrev=12 --exclude='*' --dirty=-alterado 2>/dev/null) ||
+        commit=desconhecido
+    for library in qtbase-opensource-src libxml2 zint lodepng cpp-httplib; do
+        made_with+=("$library $(source_version "$library")")
+    done
     cat <<TEXT
 Q7_Impressora $product_version para Windows, $bits bits
-commit $(git rev-parse --short=12 HEAD 2>/dev/null || echo desconhecido)
-compilador $("$triplet-g++-posix" -dumpfullversion), Qt $(source_version qtbase-opensource-src), \
-libxml2 $(source_version libxml2), Zint $(source_version zint), LodePNG $(source_version lodepng), \
-cpp-httplib $(source_version cpp-httplib)
+
+Feito do commit $commit com estes pacotes do Debian 12:
+$({ printf '  %s\n' "${made_with[@]}"
+    dpkg-query -W -f '  ${Package} ${Version}\n' "${header_packages[@]}" fonts-dejavu-core \
+        "g++-mingw-w64-${cpu//_/-}-posix" "mingw-w64-${cpu//_/-}-dev"; } | LC_ALL=C sort)
 
 bin           a DLL, que não precisa de outro arquivo, e q7.exe, a ferramenta (q7 --ajuda)
 lib           bibliotecas de importação: libQ7_Impressora.a para o MinGW, Q7_Impressora.lib para o
@@ -76,7 +82,8 @@ licencas      LICENCAS.txt e os textos das licenças
 
 TEXT
     (cd "$staging" && find . -type f ! -path './manual/*' -printf '%P %s\n' | LC_ALL=C sort |
-        awk '{ printf "%-60s %9d bytes\n", $1, $2 }')
+        awk '{ printf "%-60s %9d bytes\n", $1, $2 }'
+        printf 'manual: %d arquivos\n' "$(find manual -type f | wc -l)")
 }
 
 stage_package() {

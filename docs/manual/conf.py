@@ -16,7 +16,8 @@ nitpick_ignore = [("c:identifier", name) for name in ("int", "char", "unsigned")
 
 # Nothing from the network, nothing of the machine or the moment.
 html_theme = "alabaster"
-html_theme_options = {"page_width": "70em", "sidebar_width": "16em", "font_family": "sans-serif"}
+html_theme_options = {"page_width": "auto", "sidebar_width": "18em", "font_family": "sans-serif",
+                      "font_size": "16px", "show_powered_by": False}
 html_copy_source = False
 html_show_copyright = False
 html_show_sphinx = False

@@ -2,8 +2,24 @@
 
 #include "source_text.h"
 
+#include <algorithm>
+#include <array>
+#include <string_view>
+
 namespace q7decl
 {
+namespace
+{
+
+/** Whether functions give these values to their callers; those of the others are arguments. */
+bool isReturned(const Enumeration& enumeration)
+{
+    constexpr std::array<std::string_view, 4> names = {"Q7NetError", "Q7State", "Q7StateBit",
+                                                       "Q7PrinterState"};
+    return std::find(names.begin(), names.end(), enumeration.name) != names.end();
+}
+
+} // namespace
 
 std::string cppCodes(const Interface& interface)
 {
@@ -15,12 +31,14 @@ std::string cppCodes(const Interface& interface)
         text += "Q7_CODE(" + code.name + ", " + std::to_string(code.value) + ",\n        " +
                 doubleQuoted(code.meaning) + ",\n        " + doubleQuoted(code.causes) +
                 ",\n        " + doubleQuoted(code.remedy) + ")\n";
-    text += "// Q7_NET(nome, valor, significado): erros da rede, que são zero ou positivos.\n";
+    text += "// Q7_ANSWER(enumeração, quando, nome, valor, significado): o que não é um código.\n";
     for (const Enumeration& enumeration : interface.enumerations)
-        if (enumeration.name == "Q7NetError")
-            for (const Constant& error : enumeration.constants)
-                text += "Q7_NET(" + error.name + ", " + std::to_string(error.value) + ", " +
-                        doubleQuoted(error.documentation) + ")\n";
+        if (isReturned(enumeration))
+            for (const Constant& answer : enumeration.constants)
+                text += "Q7_ANSWER(" + enumeration.name + ",\n          " +
+                        doubleQuoted(enumeration.documentation) + ",\n          " + answer.name +
+                        ", " + std::to_string(answer.value) + ", " +
+                        doubleQuoted(answer.documentation) + ")\n";
     return text + "// clang-format on\n";
 }
 

@@ -21,8 +21,9 @@ std::string javaClass(const Interface& interface);
 std::string pythonModule(const Interface& interface);
 /** PHP from 7.4 on, over its FFI. */
 std::string phpClass(const Interface& interface);
-/** The result codes as calls of a macro Q7_CODE(name, value, meaning, causes, remedy), the network's
- *  errors as calls of Q7_NET(name, value, meaning), for C++. */
+/** The result codes as calls of a macro Q7_CODE(name, value, meaning, causes, remedy), the other
+ *  constants that functions return as calls of Q7_ANSWER(enumeration, the enumeration's purpose,
+ *  name, value, meaning), for C++. */
 std::string cppCodes(const Interface& interface);
 /** What the codes' messages are, as a function q7_mensagem, for C. */
 std::string cMessages(const Interface& interface);

@@ -33,32 +33,42 @@ void tellAll(Answer& answer)
                  "");
 }
 
-/** A number that is no code has its meaning from the function that gave it. */
-bool tellPositive(int value, Answer& answer)
+/** What a number means as an answer depends on who gave it. */
+void tellMeanings(const std::vector<Meaning>& meanings, Answer& answer)
 {
-    if (value <= 0)
-        return false;
-    answer.fact("codigo", "Número", value, std::to_string(value) + ", que não é um código");
-    for (const NetError& error : netErrors())
-        if (error.value == value)
-            answer.fact("rede", "Ao abrir pela rede", error.meaning,
-                        asSentence(error.meaning) + " (" + std::string(error.name) + ')');
-    const std::string system = systemMessage(value);
-    answer.fact("sistema", "Ao abrir, usar ou fechar a USB ou a serial", system,
-                "o erro do sistema: " + system);
-    answer.fact("quantidade", "De um texto impresso", "bytes", "quantos bytes foram entregues");
-    answer.fact("estado", "De uma pergunta", "estado",
-                "o estado: as constantes de cada pergunta estão em q7_impressora.h e no manual");
-    return true;
+    std::vector<std::vector<Json>> rows;
+    for (const Meaning& meaning : meanings) {
+        answer.remark(meaning.purpose);
+        answer.remark("  " + asSentence(meaning.meaning) + " (" + meaning.names + ')');
+        rows.push_back({meaning.purpose, meaning.names, meaning.meaning});
+    }
+    if (!answer.isForPeople())
+        answer.table("respostas", {{"quando", ""}, {"nome", ""}, {"significado", ""}}, rows, "");
 }
 
-bool tellNetError(const std::string& name, Answer& answer)
+void tellPositive(int value, Answer& answer)
 {
-    for (const NetError& error : netErrors()) {
-        if (error.name == name) {
-            answer.fact("codigo", "Número", error.value);
-            answer.fact("nome", "Nome", error.name);
-            answer.fact("rede", "Ao abrir pela rede", error.meaning, asSentence(error.meaning));
+    answer.fact("codigo", "Número", value,
+                std::to_string(value) + "; o que quer dizer depende da função que o devolveu.");
+    tellMeanings(meaningsOf(value), answer);
+    const std::string system = systemMessage(value);
+    if (!answer.isForPeople())
+        answer.fact("sistema", "", system);
+    answer.remark("Erro do sistema, de uma função que abre ou fecha, ou que envia pela USB.\n  " +
+                  system + "\nQuantidade, de uma função que imprime um texto.\n  " +
+                  std::to_string(value) + " bytes foram entregues.");
+    answer.remark("O que fazer: q7 testar acha a causa de uma impressora que não abre; q7 log "
+                  "mostrar diz\nque função devolveu o número.");
+}
+
+/** A constant that is no result code. */
+bool tellConstant(const std::string& name, Answer& answer)
+{
+    for (const ReturnedConstant& constant : returnedConstants()) {
+        if (constant.name == name) {
+            answer.fact("codigo", "Número", constant.value);
+            tellMeanings({{std::string(constant.purpose), name, std::string(constant.meaning)}},
+                         answer);
             return true;
         }
     }
@@ -76,10 +86,15 @@ Exit explain(const std::string& text, Answer& answer)
     for (const ResultCode& code : resultCodes()) {
         if (isNumber ? code.value == value : code.name == upperCase(text)) {
             tellCode(code, answer);
+            tellMeanings(isNumber ? meaningsOf(value) : std::vector<Meaning>(), answer);
             return Exit::Done;
         }
     }
-    if (isNumber ? tellPositive(value, answer) : tellNetError(upperCase(text), answer))
+    if (isNumber && value > 0) {
+        tellPositive(value, answer);
+        return Exit::Done;
+    }
+    if (!isNumber && tellConstant(upperCase(text), answer))
         return Exit::Done;
     throw Failure{Exit::Usage,
                   "\"" + text + "\" não é um código da biblioteca.",

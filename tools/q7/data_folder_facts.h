@@ -12,7 +12,7 @@ struct DataFolderFacts {
     std::string folder;        // in force, with a separator at its end
     bool isRegistered = false; // else it is the working folder
     bool isWritable = false;
-    /** What is registered, by the place where it is looked for; empty texts are none. */
+    /** What is registered, by the words for the place ("No registro"); empty texts are none. */
     std::vector<std::pair<std::string, std::string>> registered;
 };
 

@@ -8,7 +8,7 @@ namespace q7tool
 std::vector<std::pair<std::string, std::string>> registeredFolders()
 {
     const char* text = std::getenv("Q7_DATA_PATH"); // NOLINT(concurrency-mt-unsafe)
-    return {{"variável de ambiente Q7_DATA_PATH", text == nullptr ? "" : text}};
+    return {{"Na variável de ambiente Q7_DATA_PATH", text == nullptr ? "" : text}};
 }
 
 } // namespace q7tool

@@ -30,8 +30,8 @@ std::string dataPathIn(REGSAM view)
 
 std::vector<std::pair<std::string, std::string>> registeredFolders()
 {
-    return {{"registro, visão de 64 bits", dataPathIn(KEY_WOW64_64KEY)},
-            {"registro, visão de 32 bits", dataPathIn(KEY_WOW64_32KEY)}};
+    return {{"No registro, visão de 64 bits", dataPathIn(KEY_WOW64_64KEY)},
+            {"No registro, visão de 32 bits", dataPathIn(KEY_WOW64_32KEY)}};
 }
 
 } // namespace q7tool

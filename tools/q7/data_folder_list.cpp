@@ -12,7 +12,7 @@ void tellDataFolder(const DataFolderFacts& facts, Answer& answer)
     answer.fact("pasta", "Pasta de dados", facts.folder);
     for (std::size_t i = 0; i < facts.registered.size(); ++i) {
         const auto& [place, text] = facts.registered[i];
-        answer.fact("registrada_" + std::to_string(i + 1), "No " + place, text,
+        answer.fact("registrada_" + std::to_string(i + 1), place, text,
                     text.empty() ? "nada" : text);
     }
     answer.fact("gravavel", "Pode ser gravada", facts.isWritable);

@@ -74,22 +74,11 @@ Failure explainName(const PrinterAddress& address, const OpenEvidence& evidence)
         evidence.result};
 }
 
-// The names are the header's own.
 std::string networkErrorName(int result)
 {
-    const std::pair<int, const char*> names[] = {
-#define Q7_TOOL_NAME(constant) {constant, #constant}
-        Q7_TOOL_NAME(Q7_NET_CLOSED),
-        Q7_TOOL_NAME(Q7_NET_HOST_NOT_FOUND),
-        Q7_TOOL_NAME(Q7_NET_NOT_PERMITTED),
-        Q7_TOOL_NAME(Q7_NET_NO_RESOURCES),
-        Q7_TOOL_NAME(Q7_NET_TIMEOUT),
-        Q7_TOOL_NAME(Q7_NET_UNREACHABLE)
-#undef Q7_TOOL_NAME
-    };
-    for (const auto& [value, name] : names)
-        if (value == result)
-            return name;
+    for (const ReturnedConstant& constant : returnedConstants())
+        if (constant.enumeration == "Q7NetError" && constant.value == result && result > 0)
+            return std::string(constant.name);
     return {};
 }
 

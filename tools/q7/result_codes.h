@@ -1,6 +1,8 @@
-// What the library's result codes mean, for people: made from the public header's documentation.
+// What the numbers that the library returns mean, for people: made from the public header's
+// documentation.
 #pragma once
 
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -18,16 +20,27 @@ struct ResultCode {
 
 const std::vector<ResultCode>& resultCodes();
 
-/** An error of the network, as an opening over TCP gives it: zero or positive. */
-struct NetError {
-    int value;
+/** Null for a number that is no result code. */
+const ResultCode* findResultCode(int value);
+
+/** Another constant that functions return: an error of the network, a state. */
+struct ReturnedConstant {
+    std::string_view enumeration;
+    std::string_view purpose; // of the enumeration, a sentence: who returns it and when
     std::string_view name;
+    int value;
     std::string_view meaning;
 };
 
-const std::vector<NetError>& netErrors();
+const std::vector<ReturnedConstant>& returnedConstants();
 
-/** Null for a number that is no result code. */
-const ResultCode* findResultCode(int value);
+/** What a number means in one place where it is returned. */
+struct Meaning {
+    std::string purpose;
+    std::string names; // of the constants; of several, that the number is the sum of, with " + "
+    std::string meaning;
+};
+
+std::vector<Meaning> meaningsOf(int value);
 
 } // namespace q7tool

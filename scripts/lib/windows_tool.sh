@@ -20,7 +20,7 @@ expect "q7: Windows 7 has what is imported" same \
 tool_says "its library is the one beside it" 0 "^Biblioteca: Z:.*\\\\Q7_Impressora.dll" --versao
 tool_says "a library that is missing" 1 "^O que houve: A biblioteca C:.nada.dll não foi encontrada" \
     --versao --biblioteca 'C:\nada.dll'
-tool_says "a library that is none" 1 "não é uma biblioteca deste sistema" \
+tool_says "a library that is none" 1 "README.md não é uma biblioteca." \
     --versao --biblioteca "$(as_windows "$PWD/README.md")"
 tool_says "codes" 0 "Porta serial em uso ou sem permissão" erro -13
 tool_says "the data folder and its view" 0 "^No registro, visão de 64 bits: C:.Q7" log pasta
@@ -68,3 +68,21 @@ expect "q7: draws what Linux draws" diff -r "$work/drawn" "$work/drawn-windows"
 tool_says "broken XML" 5 "O XML não é bem formado: na linha 1" imprimir \
     "$(as_windows "$PWD/README.md")" -i "$(at tool)"
 tool_says "a printed document" 0 "^Impresso: sim" imprimir "$(as_windows "$document")" -i "$(at tool)"
+
+# The printer and its page on ports of their own, ended as by Ctrl+C: Wine makes it of the signal.
+wine "$(as_windows "$unpacked/bin/q7.exe")" impressora --porta 0 --pagina 0 >"$work/own.said" 2>&1 \
+    6>&- 7>&- &
+processes[own]=$!
+waiting_for "$work/own.said" '^Página: '
+own=$(tr -d '\r' <"$work/own.said" | sed -n 's/^Impressora: //p')
+page=$(tr -d '\r' <"$work/own.said" | sed -n 's:^Página\: \(.*\)/$:\1:p')
+tool_says "its own printer" 0 "^A impressora terminou: sim" testar -i "$own"
+expect "q7: its page has the test page" grep -q "Fim da página de teste" \
+    <(curl -s "$page/cupons/1/texto.txt")
+expect "q7: its page answers to no other name" same \
+    "$(curl -s -o /dev/null -w '%{http_code}' -H 'Host: exemplo.com' "$page/")" 403
+kill -INT "$(pgrep -n -f 'q7\.exe.* impressora --porta 0 --pagina 0')"
+own_status=0
+wait "${processes[own]}" || own_status=$?
+unset 'processes[own]'
+expect "q7: Ctrl+C ends it well" same "$own_status" 0

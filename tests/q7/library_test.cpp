@@ -29,13 +29,17 @@ TEST_F(ToolLibrary, ThatDoesNotServeIsSaidInWords)
                                        "ELF\x02\x01\x01",
                                        7) +
                                std::string(200, '\0'));
+    data.write("do_windows.dll", "MZ" + std::string(0x3A, '\0') + "\x40" + std::string(3, '\0') +
+                                     std::string("PE\0\0\x4C\x01", 6));
     const std::string folder = data.path() + '/';
     const struct {
         std::string library;
         std::string happened; // how it begins
     } rows[] = {
         {folder + "nada.so", "A biblioteca " + folder + "nada.so não foi encontrada."},
-        {folder + "libtexto.so", folder + "libtexto.so não é uma biblioteca deste sistema."},
+        {folder + "libtexto.so", folder + "libtexto.so não é uma biblioteca."},
+        {folder + "do_windows.dll",
+         "A biblioteca " + folder + "do_windows.dll é do Windows e este programa é do Linux."},
         {folder + "lib32.so", "A biblioteca " + folder +
                                   "lib32.so é de 32 bits e este programa é de 64: um não carrega "
                                   "o outro."},

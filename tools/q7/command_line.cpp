@@ -41,7 +41,7 @@ std::string inPortuguese(const CLI::ParseError& error, const CLI::App& program)
     const auto is = [&error](auto* kind) {
         return dynamic_cast<decltype(kind)>(&error) != nullptr;
     };
-    const std::string message = error.what();
+    std::string message = error.what();
     if (is(static_cast<const CLI::RequiredError*>(nullptr))) {
         if (message.find("subcommand") == std::string::npos)
             return "Falta " + before(message, " is required") + '.';

@@ -16,6 +16,8 @@ void* function(void* library, const char* name);
 /** The file that the library was loaded from. */
 std::string pathOf(void* library, const std::string& asLoaded);
 
+/** "Windows" or "Linux". */
+extern const char* const system;
 /** How the product's library is called on this system. */
 extern const char* const fileName;
 /** Whether the system also looks in places of its own for a library named without a folder. */

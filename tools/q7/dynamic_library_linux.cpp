@@ -6,6 +6,7 @@
 namespace q7tool::dynamic
 {
 
+const char* const system = "Linux";
 const char* const fileName = "libQ7_Impressora.so";
 const bool hasLibraryPath = true;
 

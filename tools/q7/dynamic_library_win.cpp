@@ -5,6 +5,7 @@
 
 namespace q7tool::dynamic
 {
+const char* const system = "Windows";
 const char* const fileName = "Q7_Impressora.dll";
 const bool hasLibraryPath = false;
 

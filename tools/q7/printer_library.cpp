@@ -17,8 +17,13 @@ namespace
 
 constexpr int ownBits = static_cast<int>(sizeof(void*) * 8);
 
-/** 32 or 64 as the library's file says, 0 when it is no library of this system. */
-int bitsOf(const std::string& path)
+/** What a library's file says of itself. */
+struct LibraryKind {
+    std::string system; // empty when it is no library
+    int bits = 0;
+};
+
+LibraryKind kindOf(const std::string& path)
 {
     std::ifstream file(filePath(path), std::ios::binary);
     std::array<char, 4096> head = {};
@@ -27,15 +32,15 @@ int bitsOf(const std::string& path)
         return at < head.size() ? static_cast<unsigned char>(head[at]) : 0U;
     };
     if (byte(0) == 0x7F && byte(1) == 'E' && byte(2) == 'L' && byte(3) == 'F')
-        return byte(4) == 1 ? 32 : 64;
+        return {"Linux", byte(4) == 1 ? 32 : 64};
     if (byte(0) != 'M' || byte(1) != 'Z')
-        return 0;
+        return {};
     const std::size_t header = byte(0x3C) | byte(0x3D) << 8U;
     if (byte(header) != 'P' || byte(header + 1) != 'E')
-        return 0;
+        return {};
     const unsigned machine = byte(header + 4) | byte(header + 5) << 8U;
     constexpr unsigned machine32 = 0x14C;
-    return machine == machine32 ? 32 : 64;
+    return {"Windows", machine == machine32 ? 32 : 64};
 }
 
 Failure notLoaded(const std::string& path, const std::string& reason)
@@ -45,13 +50,19 @@ Failure notLoaded(const std::string& path, const std::string& reason)
     std::error_code ignored;
     if (!std::filesystem::exists(filePath(path), ignored))
         return {Exit::Refused, "A biblioteca " + path + " não foi encontrada.", here, {}};
-    const int bits = bitsOf(path);
-    if (bits == 0)
-        return {Exit::Refused, path + " não é uma biblioteca deste sistema.", here, {}};
-    if (bits != ownBits)
+    const LibraryKind kind = kindOf(path);
+    if (kind.system.empty())
+        return {Exit::Refused, path + " não é uma biblioteca.", here, {}};
+    if (kind.system != dynamic::system)
+        return {Exit::Refused,
+                "A biblioteca " + path + " é do " + kind.system + " e este programa é do " +
+                    dynamic::system + '.',
+                here,
+                {}};
+    if (kind.bits != ownBits)
         return {
             Exit::Refused,
-            "A biblioteca " + path + " é de " + std::to_string(bits) +
+            "A biblioteca " + path + " é de " + std::to_string(kind.bits) +
                 " bits e este programa é de " + std::to_string(ownBits) +
                 ": um não carrega o outro.",
             "Use a biblioteca e o programa do mesmo pacote. Uma aplicação de 64 bits não carrega "

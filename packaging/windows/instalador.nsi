@@ -1,15 +1,19 @@
 ; O instalador, feito por scripts/build-windows da mesma pasta que o zip:
 ;
-;   makensis -DVERSION=01.01.00 -DBITS=32 -DCONTENT=PASTA -DOUTPUT=ARQUIVO.exe instalador.nsi
+;   makensis -DVERSION=01.01.00 -DNUMBERS=1.1.0.0 -DBITS=32 -DCONTENT=PASTA -DREMOVAL=LISTA.nsh
+;            -DOUTPUT=ARQUIVO.exe instalador.nsi
 ;
 ; Silencioso: ARQUIVO.exe /S [/DADOS=C:\Q7] [/GRUPO=*S-1-5-32-545] [/D=C:\Pasta do programa]
 ; (/D por último e sem aspas). Para remover: desinstalar.exe /S [/APAGARLOG]
+; Termina com 0; com 2 se nada fez, porque um programa usa a DLL; com 3 se instalou, mas sem dar ao
+; grupo os seus direitos.
 
 Unicode true
 ManifestDPIAware true
 SetCompressor /SOLID lzma
 RequestExecutionLevel admin
 CRCCheck force
+AllowSkipFiles off ; um arquivo que não pode ser trocado não passa por instalado
 
 !include MUI2.nsh
 !include FileFunc.nsh
@@ -32,7 +36,7 @@ BrandingText "Q7_Impressora ${VERSION}"
     !define OTHER 64
 !endif
 
-VIProductVersion "1.0.0.0"
+VIProductVersion "${NUMBERS}"
 VIAddVersionKey /LANG=1046 ProductName "Q7_Impressora"
 VIAddVersionKey /LANG=1046 FileDescription "Instalador da Q7_Impressora"
 VIAddVersionKey /LANG=1046 FileVersion "${VERSION}"
@@ -62,6 +66,23 @@ Page custom askForData takeData
     ${If} ${RunningX64}
         SetRegView 64
     ${EndIf}
+!macroend
+
+; Nada é trocado nem removido pela metade.
+!macro demandUnused file
+    ${Do}
+        ${IfNot} ${FileExists} "${file}"
+            ${Break}
+        ${EndIf}
+        ClearErrors
+        FileOpen $0 "${file}" a
+        ${IfNot} ${Errors}
+            FileClose $0
+            ${Break}
+        ${EndIf}
+        MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "Um programa está usando ${file}. Feche-o e tente de novo." /SD IDCANCEL IDRETRY +2
+        Abort
+    ${Loop}
 !macroend
 
 Function .onInit
@@ -122,6 +143,8 @@ FunctionEnd
 Section
     SetShellVarContext all
     !insertmacro ownView
+    !insertmacro demandUnused "$INSTDIR\bin\Q7_Impressora.dll"
+    !insertmacro demandUnused "$INSTDIR\bin\q7.exe"
     ; Sempre com barra no fim, como a biblioteca o espera.
     StrCpy $0 $DataFolder 1 -1
     ${If} $0 != "\"
@@ -134,13 +157,20 @@ Section
     CreateDirectory "$SMPROGRAMS\Q7_Impressora"
     CreateShortcut "$SMPROGRAMS\Q7_Impressora\Manual (${BITS} bits).lnk" "$INSTDIR\manual\index.html"
 
+    ; Uma pasta nova não herda os direitos do disco, que deixariam qualquer usuário ler o log. Numa
+    ; que já existe os direitos são de quem a fez; o grupo ganha os seus.
+    StrCpy $3 ""
+    ${IfNot} ${FileExists} "$DataFolder*.*"
+        StrCpy $3 '/inheritance:r /grant "*S-1-5-18:(OI)(CI)F" /grant "*S-1-5-32-544:(OI)(CI)F" '
+    ${EndIf}
     CreateDirectory "$DataFolder"
     StrCpy $1 $DataFolder -1
-    nsExec::ExecToStack '"$SYSDIR\icacls.exe" "$1" /grant "$Group:(OI)(CI)M"'
+    nsExec::ExecToStack '"$SYSDIR\icacls.exe" "$1" $3/grant "$Group:(OI)(CI)M"'
     Pop $0
     Pop $2
     ${If} $0 != 0
         DetailPrint "icacls: $2"
+        SetErrorLevel 3
         MessageBox MB_ICONEXCLAMATION "Não foi possível dar ao grupo $Group o direito de gravar em $1. Dê-o nas propriedades da pasta." /SD IDOK
     ${EndIf}
 
@@ -163,18 +193,10 @@ Section Uninstall
     !insertmacro ownView
     ReadRegStr $DataFolder HKLM "${DATA_KEY}" "data_path"
 
-    ; Só o que foi instalado: a pasta pode ter sido de outros antes.
-    RMDir /r "$INSTDIR\bin"
-    RMDir /r "$INSTDIR\lib"
-    RMDir /r "$INSTDIR\declaracoes"
-    RMDir /r "$INSTDIR\exemplos"
-    RMDir /r "$INSTDIR\manual"
-    RMDir /r "$INSTDIR\config"
-    RMDir /r "$INSTDIR\licencas"
-    Delete "$INSTDIR\LEIAME.txt"
-    Delete "$INSTDIR\CONTEUDO.txt"
-    Delete "$INSTDIR\desinstalar.exe"
-    RMDir "$INSTDIR"
+    !insertmacro demandUnused "$INSTDIR\bin\Q7_Impressora.dll"
+    !insertmacro demandUnused "$INSTDIR\bin\q7.exe"
+    ; Só o que foi instalado, arquivo por arquivo: as pastas podem conter o que é de outros.
+    !include "${REMOVAL}"
     Delete "$SMPROGRAMS\Q7_Impressora\Manual (${BITS} bits).lnk"
     RMDir "$SMPROGRAMS\Q7_Impressora"
     DeleteRegKey HKLM "${UNINSTALL_KEY}"
@@ -207,4 +229,6 @@ Section Uninstall
         DeleteRegValue HKLM "${DATA_KEY}" ""
         DeleteRegKey /ifempty HKLM "${DATA_KEY}"
     ${EndIf}
+    Delete "$INSTDIR\desinstalar.exe" ; por último: o que foi interrompido pode ser repetido
+    RMDir "$INSTDIR"
 SectionEnd

@@ -111,10 +111,20 @@ stage_package() {
     text "$package_folder/CONTEUDO.txt" "$staging"
 }
 
+# What the uninstaller removes: each file of the staged folder, then its folders if they are empty.
+list_removal() {
+    (cd "$staging" && find . -type f -printf '%P\n' | LC_ALL=C sort | sed 's|^|Delete ?|'
+        find . -mindepth 1 -depth -type d -printf '%P\n' | LC_ALL=C sort -r | sed 's|^|RMDir ?|') |
+        sed 's|/|\\|g; s|?\(.*\)|"$INSTDIR\\\1"|'
+}
+
 make_installer() {
     install_packages nsis
-    makensis -V2 -INPUTCHARSET UTF8 -DVERSION="$product_version" -DBITS="$bits" \
-        -DCONTENT="$staging" -DOUTPUT="$staging-instalador.exe" packaging/windows/instalador.nsi \
+    list_removal >"$package_folder/removal.nsh"
+    makensis -V2 -INPUTCHARSET UTF8 -DVERSION="$product_version" \
+        -DNUMBERS="$(sed 's/^0*\(.\)/\1/; s/\.0*\(.\)/.\1/g' <<<"$product_version").0" \
+        -DBITS="$bits" -DCONTENT="$staging" -DREMOVAL="$package_folder/removal.nsh" \
+        -DOUTPUT="$staging-instalador.exe" packaging/windows/instalador.nsi \
         >"$package_folder/instalador.log" 2>&1 || fail "$(cat "$package_folder/instalador.log")"
     say "made $staging-instalador.exe"
 }

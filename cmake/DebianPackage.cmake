@@ -3,6 +3,12 @@
 set(documentation ${CMAKE_INSTALL_DATAROOTDIR}/doc/q7-impressora)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/build/manual/html/ DESTINATION ${documentation}/manual)
 install(FILES packaging/linux/copyright CHANGELOG.md DESTINATION ${documentation})
+# Of what is compiled into library and q7; the machine that uses them lacks these packages.
+foreach(package IN ITEMS libasio-dev libsimpleini-dev libcli11-dev nlohmann-json3-dev
+        libcpp-httplib-dev fonts-dejavu-core)
+    install(FILES /usr/share/doc/${package}/copyright DESTINATION ${documentation}/licences
+        RENAME ${package})
+endforeach()
 install(DIRECTORY declaracoes examples/ DESTINATION ${documentation}/examples
     PATTERN CMakeLists.txt EXCLUDE PATTERN print_document.c EXCLUDE PATTERN cpp EXCLUDE)
 install(FILES packaging/linux/70-q7-impressora.rules DESTINATION lib/udev/rules.d)

@@ -32,7 +32,7 @@ using Line = HostilePrinter::Line;
 using std::chrono::milliseconds;
 using std::chrono::seconds;
 
-constexpr int ownWorkers = 96;
+constexpr int ownWorkers = Q7_WORKERS;
 constexpr int toldWorkers = 4;
 constexpr std::size_t modelQuery = 3; // bytes before the receipt's
 // What is stated, and some for a busy machine: a hand-over of 250 ms; a status of 250 ms before and

@@ -35,6 +35,7 @@ make_msvc_library() {
 }
 
 copy_licences() {
+    install_packages nsis
     local qt=$sources/qtbase-opensource-src file licence library folder=$staging/licencas
     cp "$qt/LICENSE.LGPL3" "$folder/LGPL-3.txt"
     cp "$qt/LICENSE.GPL3" "$folder/GPL-3.txt"
@@ -48,7 +49,8 @@ copy_licences() {
     for library in libxml2 zint lodepng cpp-httplib; do
         cp "$sources/$library/debian/copyright" "$folder/$library.txt"
     done
-    for library in libasio-dev libsimpleini-dev libcli11-dev nlohmann-json3-dev fonts-dejavu-core; do
+    for library in libasio-dev libsimpleini-dev libcli11-dev nlohmann-json3-dev fonts-dejavu-core \
+        nsis; do
         cp "/usr/share/doc/$library/copyright" "$folder/${library%-dev}.txt"
     done
     filled packaging/windows/LICENCAS.txt >"$package_folder/LICENCAS.txt"
@@ -119,7 +121,6 @@ list_removal() {
 }
 
 make_installer() {
-    install_packages nsis
     list_removal >"$package_folder/removal.nsh"
     makensis -V2 -INPUTCHARSET UTF8 -DVERSION="$product_version" \
         -DNUMBERS="$(sed 's/^0*\(.\)/\1/; s/\.0*\(.\)/.\1/g' <<<"$product_version").0" \

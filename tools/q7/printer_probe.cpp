@@ -1,8 +1,8 @@
 #include "printer_probe.h"
 
 #include "devices.h"
-#include "text.h"
 #include "system_name.h"
+#include "text.h"
 
 #include <array>
 #include <asio.hpp>

@@ -17,6 +17,8 @@ at() { printf 'VANTA@net:127.0.0.1:%s' "$(port_of "$1")"; }
 
 expect "q7: Windows 7 has what is imported" same \
     "$(comm -23 <(imports "$unpacked/bin/q7.exe") <(in_windows7))" ""
+expect "q7: adds at most 6 MB to the zip" test 6291456 -ge \
+    "$(unzip -v "$package" | awk '$NF ~ /\/q7\.exe$/ { print $3 }')"
 tool_says "its library is the one beside it" 0 "^Biblioteca: Z:.*\\\\Q7_Impressora.dll" --versao
 tool_says "a library that is missing" 1 "^O que houve: A biblioteca C:.nada.dll não foi encontrada" \
     --versao --biblioteca 'C:\nada.dll'

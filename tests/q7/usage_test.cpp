@@ -20,7 +20,8 @@ TEST_F(ToolUsage, IsCorrectedInPortuguese)
         std::string todo;
     } rows[] = {
         {{}, "Falta dizer o comando.", seeHelp},
-        {{"imprimirr"}, "Não sei o que fazer com \"imprimirr\".", seeHelp},
+        {{"imprimirr"}, "O comando \"imprimirr\" não existe.", seeHelp},
+        {{"--tudo"}, "Não sei o que fazer com \"--tudo\".", seeHelp},
         {{"log"}, "Falta dizer o comando.", seeHelp},
         {{"estado"}, "Falta --impressora.", seeHelp},
         {{"estado", "-i"}, "Falta o valor de --impressora.", seeHelp},

@@ -50,7 +50,9 @@ std::string inPortuguese(const CLI::ParseError& error, const CLI::App& program)
                                : "O comando \"" + unknown.front() + "\" não existe.";
     }
     if (is(static_cast<const CLI::ExtrasError*>(nullptr)))
-        return "Não sei o que fazer com \"" + behind(message, "expected: ") + "\".";
+        return program.get_subcommands().empty() && message.find(": -") == std::string::npos
+                   ? "O comando \"" + behind(message, "expected: ") + "\" não existe."
+                   : "Não sei o que fazer com \"" + behind(message, "expected: ") + "\".";
     if (is(static_cast<const CLI::ConversionError*>(nullptr)))
         return before(behind(message, "convert: "), " = ") + " não aceita \"" +
                behind(message, " = ") + "\".";
@@ -93,6 +95,8 @@ void nameGroups(CLI::App& app)
 {
     for (CLI::App* command : app.get_subcommands({})) {
         command->group("Comandos");
+        command->footer(command->get_footer() + "\n\nTambém valem --json e --biblioteca: veja q7 "
+                                                "--ajuda.");
         command->get_help_ptr()->group("Opções gerais");
         nameGroups(*command);
     }

@@ -166,6 +166,7 @@ void addVisualizar(const CommandLine& line)
         "visualizar", "Desenha o que seria impresso: de um XML, de um log ou de bytes");
     auto options = std::make_shared<ViewOptions>();
     addDocumentOptions(*command, options->document);
+    command->get_option("ARQUIVO")->description("O XML de um documento, um log ou bytes");
     command->add_option("-o,--saida", options->folder, "A pasta para as imagens e os textos")
         ->option_text("PASTA (obrigatório)")
         ->required();

@@ -28,6 +28,7 @@ Json columnCount(int columns)
 void tellSerialPorts(const std::vector<SerialPort>& ports, Answer& answer)
 {
     std::vector<std::vector<Json>> rows;
+    rows.reserve(ports.size());
     for (const SerialPort& port : ports)
         rows.push_back({port.name, port.description});
     answer.beginSection("seriais", "Portas seriais");
@@ -39,6 +40,7 @@ void tellSerialPorts(const std::vector<SerialPort>& ports, Answer& answer)
 void tellUsbPrinters(const std::vector<UsbPrinter>& printers, Answer& answer)
 {
     std::vector<std::vector<Json>> rows;
+    rows.reserve(printers.size());
     for (const UsbPrinter& printer : printers)
         rows.push_back({printer.vendorId, printer.productId, printer.product, printer.path,
                         iniLines(printer)});

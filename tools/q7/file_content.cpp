@@ -25,7 +25,7 @@ std::string contentOf(const std::string& path, std::size_t atMost)
         if (content.size() > atMost)
             throw Failure{Exit::Document,
                           "O arquivo " + path + " é grande demais: mais de " +
-                              std::to_string(atMost / (1024 * 1024)) + " MB.",
+                              std::to_string(atMost >> 20U) + " MB.",
                           "Confira se é mesmo o arquivo certo.",
                           {}};
     } while (file);

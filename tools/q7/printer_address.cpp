@@ -100,7 +100,9 @@ PrinterAddress parsePrinterAddress(const std::string& text)
 
 void addPrinterOption(CLI::App& command, std::string& text, bool required)
 {
-    command.add_option("-i,--impressora", text, "A impressora: modelo e lugar")
+    command
+        .add_option("-i,--impressora", text,
+                    "Por exemplo VANTA@net:192.168.0.10:9100, VESPA@com:COM3:9600 ou PINTA@usb")
         ->option_text(required ? "MODELO@LUGAR (obrigatório)" : "MODELO@LUGAR")
         ->required(required);
 }

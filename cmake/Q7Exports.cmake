@@ -44,13 +44,16 @@ function(q7_export_decorated target list_file components)
     target_sources(${target} PRIVATE ${definition})
     target_link_options(${target} PRIVATE -Wl,--kill-at)
 
-    set(import_library ${CMAKE_CURRENT_BINARY_DIR}/import/lib${target}.a)
+    # The path by which it is called makes names in it: in its own folder they are the same anywhere.
+    set(import_folder ${CMAKE_CURRENT_BINARY_DIR}/import)
+    set(import_library ${import_folder}/lib${target}.a)
+    file(MAKE_DIRECTORY ${import_folder})
     add_custom_command(
         OUTPUT ${import_library}
-        COMMAND ${CMAKE_COMMAND} -E make_directory ${CMAKE_CURRENT_BINARY_DIR}/import
         COMMAND ${CMAKE_DLLTOOL} --kill-at --dllname ${target}.dll
-            --input-def ${definition} --output-lib ${import_library}
+            --input-def ${definition} --output-lib lib${target}.a
         DEPENDS ${definition}
+        WORKING_DIRECTORY ${import_folder}
         VERBATIM)
     add_custom_target(${target}_import_library ALL DEPENDS ${import_library})
     set_target_properties(${target} PROPERTIES Q7_IMPORT_LIBRARY ${import_library})

@@ -59,7 +59,8 @@ make_qt() {
     mkdir -p "$build"
     # It builds qmake first, file by file unless it is told otherwise.
     (cd "$build" && MAKEFLAGS=-j$(nproc) logged qt.configure \
-        "$sources/qtbase-opensource-src/configure" -prefix "$windows_prefix" -device-option "CROSS_COMPILE=$triplet-" "${qt_configuration[@]}")
+        "$sources/qtbase-opensource-src/configure" -prefix "$windows_prefix" \
+        -device-option "CROSS_COMPILE=$triplet-" "${qt_configuration[@]}")
     say "building Qt for Windows (the slow part, once)"
     logged qt.makefiles make -C "$build" -j"$(nproc)" sub-src-qmake_all
     logged qt.make make -C "$build/src" -j"$(nproc)" "${parts[@]/#/sub-}"

@@ -20,13 +20,6 @@ std::vector<std::string> logOf(const Transcript& transcript)
     return lines;
 }
 
-int openOn(const FakePrinter& printer, const std::string& model)
-{
-    const std::string& serial = printer.serialPath();
-    return serial.empty() ? AbreConexaoImpressora(3, model.c_str(), "127.0.0.1", printer.port())
-                          : AbreConexaoImpressora(2, model.c_str(), serial.c_str(), 9600);
-}
-
 void ExportTest::openTcp(const PrinterScript& script)
 {
     farEnd = std::make_unique<TcpPrinter>(script);

@@ -19,9 +19,6 @@ using Transcript = std::vector<std::string>;
 /** The transcript as DataFolder::takeLog() gives it. */
 std::vector<std::string> logOf(const Transcript& transcript);
 
-/** Opens a connection to that printer and returns the result. */
-int openOn(const FakePrinter& printer, const std::string& model = "VANTA");
-
 /** The time that a call takes. */
 template <typename Call> Clock::duration durationOf(Call call)
 {

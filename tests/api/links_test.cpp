@@ -152,104 +152,34 @@ TEST_F(Links, CountsAreSigned16BitNumbers)
     }
 }
 
-/** Opens another printer where one has vanished, and prints there. */
-void opensAndPrints()
-{
-    TcpPrinter printer;
-    EXPECT_EQ(0, openOn(printer));
-    EXPECT_EQ(1, ImpressaoTexto("x", 0, 0, 0));
-    EXPECT_TRUE(sameBytes(hex("1D 49 43  1B 40 1B 74 10") + 'x', printer.waitForBytes(9)));
-    EXPECT_EQ(0, FechaConexaoImpressora());
-}
-
-/** 600 sends. Returns the last one's result. */
-int printTheRest()
-{
-    int result = 0;
-    for (int line = 0; line < 150; ++line) {
-        result = ImpressaoTexto(std::string(1500, 'x').c_str(), 0, 0, 0);
-        EXPECT_TRUE(result == 1500 || result == -4 || result == -44) << result;
-    }
-    return result;
-}
-
-TEST_F(Links, ConnectionResetInTheMiddle)
-{
-    for (const auto exit : {PrinterScript::Exit::Reset, PrinterScript::Exit::Close}) {
-        openTcp();
-        farEnd->change([=](PrinterScript& script) {
-            script.exit = exit;
-            script.exitAfterBytes = 5000;
-        });
-        const auto took = durationOf([this] {
-            printTheRest();
-            EXPECT_NE("", farEnd->waitForClose());
-            EXPECT_EQ(-4, printTheRest());
-            EXPECT_EQ(-4, StatusImpressora(2));
-            EXPECT_EQ(-4, FechaConexaoImpressora());
-        });
-        EXPECT_LT(took, seconds(3));
-        opensAndPrints();
-    }
-}
-
-TEST_F(Links, TerminalGoneInTheMiddle)
-{
-    openSerial();
-    EXPECT_EQ(1, ImpressaoTexto("x", 0, 0, 0));
-    farEnd.reset();
-    const auto took = durationOf([] {
-        EXPECT_EQ(-4, printTheRest());
-        EXPECT_EQ(-4, StatusImpressora(2));
-        EXPECT_EQ(-4, FechaConexaoImpressora());
-    });
-    EXPECT_LT(took, seconds(1));
-    opensAndPrints();
-    PtyPrinter other;
-    EXPECT_EQ(0, openOn(other));
-}
-
 TEST_F(Links, APrinterNeverReads)
 {
-    PrinterScript script;
-    script.readBytesAtMost = 3; // the model query
-    for (const auto line : {FakePrinter::Line::Tcp, FakePrinter::Line::Serial}) {
-        const FakePrinter printer(script, line);
+    const PrinterScript script = faultyAt(PrinterScript::Fault::Stall, 3); // the model query
+    for (const auto kind : {FakePrinter::Line::Tcp, FakePrinter::Line::Serial}) {
+        const FakePrinter printer(script, kind);
         ASSERT_EQ(0, openOn(printer));
-        EXPECT_LT(durationOf([] { EXPECT_EQ(1500, printTheRest()); }), seconds(3));
+        const auto print = [] {
+            for (int line = 0; line < 150; ++line)
+                EXPECT_EQ(1500, ImpressaoTexto(std::string(1500, 'x').c_str(), 0, 0, 0));
+        };
+        EXPECT_LT(durationOf(print), seconds(3));
         data.write("log_q7.txt", "");
         EXPECT_LT(durationOf([] { EXPECT_EQ(0, FechaConexaoImpressora()); }), seconds(8));
         EXPECT_EQ(0U, data.takeLog().at(1).find("INFO FECHAMENTO SEM ENTREGAR "));
         data.stopLog();
-        opensAndPrints();
     }
 }
 
 // More line feeds than anyone needs: what waits for a printer is bounded, and so is the time.
 TEST_F(Links, AGarbageCountEndsSoon)
 {
-    PrinterScript script;
-    script.readBytesAtMost = 3; // the model query
+    const PrinterScript script = faultyAt(PrinterScript::Fault::Stall, 3); // the model query
     const TcpPrinter printer(script);
     ASSERT_EQ(0, openOn(printer));
     ImpressaoTexto(std::string(60 << 20, 'x').c_str(), 0, 0, 0); // most of what may wait
     EXPECT_LT(durationOf([] { EXPECT_EQ(-44, AvancaPapel(INT_MAX)); }), seconds(20));
     EXPECT_EQ(-44, Corte(INT_MAX));
     EXPECT_EQ(-44, ImpressaoTexto("x", 0, 0, 0));
-}
-
-// A till that asks for the status from a thread of its own.
-TEST_F(Links, TwoThreadsTakeTurns)
-{
-    openTcp();
-    std::string bytes;
-    std::thread asking([] {
-        for (int question = 0; question < 200; ++question)
-            EXPECT_EQ(4, StatusImpressora(2));
-    });
-    printLines(200, bytes);
-    asking.join();
-    EXPECT_EQ(bytes.size() + 200 * 6, takeSent().size());
 }
 
 // The application prints and goes on with something else.

@@ -15,14 +15,6 @@ namespace
 class Host : public testing::Test
 {
 protected:
-    static PrinterScript closing()
-    {
-        PrinterScript script;
-        script.exit = PrinterScript::Exit::Close;
-        script.exitAfterBytes = 500;
-        return script;
-    }
-
     void expectSilence(const char* program)
     {
         const ProgramResult result =
@@ -34,7 +26,7 @@ protected:
 
     DataFolder data{DataFolder::Log::Off};
     TcpPrinter printer;
-    TcpPrinter closingPrinter{closing()};
+    TcpPrinter closingPrinter{faultyAt(PrinterScript::Fault::Close, 500)};
     PtyPrinter terminal;
 };
 

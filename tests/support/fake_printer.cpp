@@ -18,8 +18,16 @@ virtual_printer::ServerSettings settingsOf(const PrinterScript& script, FakePrin
 
 } // namespace
 
-FakePrinter::FakePrinter(const PrinterScript& script, Line line)
-    : RecordingPrinter(settingsOf(script, line)), m_script(script)
+PrinterScript faultyAt(PrinterScript::Fault fault, std::uint64_t byte)
+{
+    PrinterScript script;
+    script.fault = fault;
+    script.faultAfterBytes = byte;
+    return script;
+}
+
+FakePrinter::FakePrinter(const PrinterScript& script, Line line, Keep keep)
+    : RecordingPrinter(settingsOf(script, line), keep), m_script(script)
 {
 }
 
@@ -28,6 +36,7 @@ void FakePrinter::change(const std::function<void(PrinterScript&)>& edit)
     edit(m_script);
     setBehaviour(m_script);
     setState(m_script.state);
+    setModel(*virtual_printer::findModel(m_script.model));
 }
 
 FakePrinter::Record FakePrinter::latest() const
@@ -53,6 +62,12 @@ std::string FakePrinter::waitForClose() const
     const bool isClosed = waitUntil(
         [](const Records& all) { return !all.empty() && all.back().ended; }, generousTime);
     return isClosed ? latest().bytes : std::string();
+}
+
+bool FakePrinter::waitForFault() const
+{
+    return waitUntil([](const Records& all) { return !all.empty() && all.back().faulted; },
+                     generousTime);
 }
 
 } // namespace q7test

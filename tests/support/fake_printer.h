@@ -15,12 +15,15 @@ struct PrinterScript : virtual_printer::Behaviour {
     virtual_printer::State state = {};
 };
 
+/** A printer that does so once so many bytes of a connection have come. */
+PrinterScript faultyAt(PrinterScript::Fault fault, std::uint64_t byte);
+
 class FakePrinter : public virtual_printer::RecordingPrinter
 {
 public:
     enum class Line { Tcp, Serial }; // at 127.0.0.1; on a pseudo-terminal
 
-    FakePrinter(const PrinterScript& script, Line line);
+    FakePrinter(const PrinterScript& script, Line line, Keep keep = Keep::All);
 
     void change(const std::function<void(PrinterScript&)>& edit);
 
@@ -32,14 +35,16 @@ public:
     /** The latest connection's bytes once it was closed, all that were sent. Empty when it was not
      *  closed in time. */
     std::string waitForClose() const;
+    /** Whether what the script has it do wrong happens to the latest connection in time. */
+    bool waitForFault() const;
 
 private:
     PrinterScript m_script;
 };
 
 struct TcpPrinter : FakePrinter {
-    explicit TcpPrinter(const PrinterScript& script = PrinterScript())
-        : FakePrinter(script, Line::Tcp)
+    explicit TcpPrinter(const PrinterScript& script = PrinterScript(), Keep keep = Keep::All)
+        : FakePrinter(script, Line::Tcp, keep)
     {
     }
 };
@@ -50,5 +55,8 @@ struct PtyPrinter : FakePrinter {
     {
     }
 };
+
+/** Opens a connection to that printer by the library's export and returns the result. */
+int openOn(const FakePrinter& printer, const std::string& model = "VANTA");
 
 } // namespace q7test

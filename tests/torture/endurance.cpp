@@ -5,7 +5,7 @@
 // What the process holds, and what a receipt takes, must be the same in the last tenth of the time
 // as in the first.
 
-#include "hostile_printer.h"
+#include "fake_printer.h"
 #include "own_resources.h"
 #include "printer_session.h"
 #include "q7_impressora.h"
@@ -26,7 +26,8 @@ namespace
 {
 
 using Clock = std::chrono::steady_clock;
-using Line = HostilePrinter::Line;
+using Fault = PrinterScript::Fault;
+using Line = FakePrinter::Line;
 
 constexpr long mostGrowthKib = 512;
 constexpr double mostSlowdown = 1.5;
@@ -34,11 +35,11 @@ constexpr int losesOneIn = 40;
 constexpr std::chrono::milliseconds ending(200);
 
 /** A USB printer whose device is a terminal: found without the system's tree of devices. */
-int openUsb(const HostilePrinter& printer)
+int openUsb(const FakePrinter& printer)
 {
     q7::PrinterSession& session = q7::session();
     session.connection = std::make_unique<q7::PrinterConnection>([&](const QString&) {
-        return q7::UsbSearch{Q7_OK, QString::fromStdString(printer.terminal())};
+        return q7::UsbSearch{Q7_OK, QString::fromStdString(printer.serialPath())};
     });
     session.connection->setKind(q7::UsbConnection);
     const int result = session.connection->open({}, "VANTA", 0);
@@ -59,8 +60,8 @@ class Till
 {
 public:
     Till(int kind, Fault fault, std::size_t atByte)
-        : m_printer(kind == 3 ? Line::Tcp : Line::Terminal, HostilePrinter::Keep::Nothing, fault,
-                    atByte),
+        : m_printer(faultyAt(fault, atByte), kind == 3 ? Line::Tcp : Line::Serial,
+                    FakePrinter::Keep::Nothing),
           m_opened(kind == 1 ? openUsb(m_printer) : openOn(m_printer))
     {
     }
@@ -71,7 +72,7 @@ public:
     bool isOpen() const { return m_opened == Q7_OK; }
 
 private:
-    HostilePrinter m_printer;
+    FakePrinter m_printer;
     int m_opened;
 };
 
@@ -119,8 +120,8 @@ int main(int argc, char** argv)
         for (const auto end = Clock::now() + tenthOfTime; Clock::now() < end;) {
             const bool isLost = upTo(losesOneIn - 1) == 0;
             const int kind = 1 + upTo(2);
-            constexpr Fault ways[] = {Fault::Closed, Fault::Reset, Fault::Garbage, Fault::Endless};
-            const Fault fault = !isLost ? Fault::None : kind == 3 ? ways[upTo(3)] : Fault::Closed;
+            constexpr Fault ways[] = {Fault::Close, Fault::Reset, Fault::Garbage, Fault::Babble};
+            const Fault fault = !isLost ? Fault::None : kind == 3 ? ways[upTo(3)] : Fault::Close;
             const auto atByte = 3U + static_cast<unsigned>(upTo(2000));
             std::optional<Till> till;
             // A busy machine may keep a printer from answering in time; not three.

@@ -1,12 +1,9 @@
 // Memory that is at its end, at each allocation of each kind of call in turn: the call says so, or
 // prints every byte.
 
-#include "bytes.h"
-#include "hostile_printer.h"
+#include "export_fixture.h"
 #include "own_resources.h"
-#include "q7_impressora.h"
 #include "sample_receipts.h"
-#include "temporary_folder.h"
 
 #include <cerrno>
 #include <cstdlib>
@@ -91,32 +88,18 @@ const Row rows[] = {
     // No offline note: which of its copies comes next outlives a failure.
 };
 
-class FailingMemory : public testing::TestWithParam<Row>
+class FailingMemory : public ExportTest, public testing::WithParamInterface<Row>
 {
-protected:
-    // Prints the mark and takes what came up to it.
-    std::string takeSent()
-    {
-        const std::string mark = "\x07<mark>\x07";
-        DirectIO(mark.data(), static_cast<int>(mark.size()), nullptr, nullptr);
-        const std::string bytes = printer.waitForText(mark, m_taken).substr(m_taken);
-        m_taken += bytes.size();
-        return bytes.substr(0, bytes.find(mark));
-    }
-
-    HostilePrinter printer{HostilePrinter::Line::Tcp, HostilePrinter::Keep::Bytes};
-    std::size_t m_taken = 0;
 };
 
 TEST_P(FailingMemory, NoHalfPassesForAWhole)
 {
     const Row& row = GetParam();
-    for (const auto log : {DataFolder::Log::Off, DataFolder::Log::On}) {
-        const DataFolder data(log);
+    for (const bool isLogged : {true, false}) {
+        if (!isLogged)
+            data.stopLog();
         for (const long failures : {1L, 1'000'000L}) {
-            ASSERT_EQ(0, openOn(printer));
-            m_taken = 0;
-            takeSent();
+            openTcp();
             ASSERT_EQ(row.success, row.call());
             const std::string whole = takeSent();
             for (long allocation = 0;; allocation += strideOf(whole.size())) {
@@ -147,8 +130,8 @@ INSTANTIATE_TEST_SUITE_P(Calls, FailingMemory, testing::ValuesIn(rows),
 
 TEST(FailingMemoryOfLinks, OpeningAndClosingSucceedOrLeaveNothing)
 {
-    for (const auto line : {HostilePrinter::Line::Tcp, HostilePrinter::Line::Terminal}) {
-        HostilePrinter printer(line);
+    for (const auto line : {FakePrinter::Line::Tcp, FakePrinter::Line::Serial}) {
+        const FakePrinter printer({}, line);
         ASSERT_EQ(0, openOn(printer));
         ASSERT_EQ(0, FechaConexaoImpressora());
         const OwnResources before;

@@ -28,7 +28,9 @@ namespace
 {
 
 using Clock = std::chrono::steady_clock;
-using Line = HostilePrinter::Line;
+using Fault = PrinterScript::Fault;
+using Line = FakePrinter::Line;
+using Keep = FakePrinter::Keep;
 using std::chrono::milliseconds;
 using std::chrono::seconds;
 
@@ -42,8 +44,8 @@ constexpr milliseconds statusLimit(4000);
 constexpr milliseconds closeLimit(8500);
 
 const std::pair<const char*, Fault> faults[] = {
-    {"closed", Fault::Closed},   {"reset", Fault::Reset},     {"half-closed", Fault::HalfClosed},
-    {"stalled", Fault::Stalled}, {"garbage", Fault::Garbage}, {"endless", Fault::Endless}};
+    {"closed", Fault::Close},  {"reset", Fault::Reset},     {"half-closed", Fault::HalfClose},
+    {"stalled", Fault::Stall}, {"garbage", Fault::Garbage}, {"endless", Fault::Babble}};
 
 struct Case {
     Line line;
@@ -59,7 +61,7 @@ struct Case {
     }
     bool endsTheLink() const
     {
-        return fault == Fault::Closed || fault == Fault::Reset || fault == Fault::HalfClosed;
+        return fault == Fault::Close || fault == Fault::Reset || fault == Fault::HalfClose;
     }
 };
 
@@ -81,10 +83,10 @@ template <typename Call> int within(milliseconds limit, const char* what, Call c
 
 /** A new printer on which the till has a link. A busy machine may keep one from answering in time;
  *  not three. */
-template <typename... How> std::unique_ptr<HostilePrinter> openedPrinter(Till& till, How... how)
+template <typename... How> std::unique_ptr<FakePrinter> openedPrinter(Till& till, How... how)
 {
     for (int attempt = 0; attempt < 3; ++attempt) {
-        auto printer = std::make_unique<HostilePrinter>(how...);
+        auto printer = std::make_unique<FakePrinter>(how...);
         if (till.open(*printer) == 0)
             return printer;
     }
@@ -94,7 +96,7 @@ template <typename... How> std::unique_ptr<HostilePrinter> openedPrinter(Till& t
 /** The bytes of the receipt, the model's question before it, over a link that does no harm. */
 std::string printedWell(Till& till, const SampleReceipt& receipt)
 {
-    const auto printer = openedPrinter(till, Line::Tcp, HostilePrinter::Keep::Bytes);
+    const auto printer = openedPrinter(till, PrinterScript(), Line::Tcp, Keep::All);
     // Which copy of an offline note comes next survives the link: two leave it as it was.
     expect(till.print(receipt) == 0, "the next receipt is not printed");
     expect(till.close() == 0, "a sound link does not close");
@@ -117,7 +119,7 @@ void suffer(Till& till, const Case& now)
     till.look();
     {
         const auto printer =
-            openedPrinter(till, now.line, HostilePrinter::Keep::Nothing, now.fault, now.atByte);
+            openedPrinter(till, faultyAt(now.fault, now.atByte), now.line, Keep::Nothing);
         const int printed =
             within(printLimit, "the receipt", [&] { return till.print(*now.receipt); });
         expect(printed == 0 || (printed < 0 && now.endsTheLink()),
@@ -144,13 +146,13 @@ std::vector<Case> allCases(bool areTold)
 {
     std::vector<Case> cases;
     for (const SampleReceipt& receipt : sampleReceipts())
-        for (const Line line : {Line::Tcp, Line::Terminal})
+        for (const Line line : {Line::Tcp, Line::Serial})
             for (const auto& [name, fault] : faults)
                 if (line == Line::Tcp ||
-                    (!areTold && fault != Fault::Reset && fault != Fault::HalfClosed))
+                    (!areTold && fault != Fault::Reset && fault != Fault::HalfClose))
                     // A terminal takes its answer with it: that one never opens.
                     for (std::size_t at =
-                             modelQuery + (line == Line::Terminal && fault == Fault::Closed);
+                             modelQuery + (line == Line::Serial && fault == Fault::Close);
                          at <= reference(receipt).size(); ++at)
                         cases.push_back({line, name, fault, &receipt, at});
     return cases;

@@ -1,7 +1,7 @@
 // The three exports that print a document, over an open link, for documents of all sorts. The last
 // byte of an input chooses the export, the one before it the options.
 
-#include "hostile_printer.h"
+#include "fake_printer.h"
 #include "q7_impressora.h"
 #include "sample_receipts.h"
 #include "xml_mutator.h"
@@ -18,7 +18,7 @@ extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t s
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    static HostilePrinter printer(HostilePrinter::Line::Tcp);
+    static const TcpPrinter printer({}, TcpPrinter::Keep::Nothing);
     static const bool isOpen = openOn(printer) == 0;
     if (!isOpen || size < 2)
         return 0;

@@ -1,6 +1,6 @@
 // Every export that takes a text or a number and awaits no reply, with any bytes and any numbers.
 
-#include "hostile_printer.h"
+#include "fake_printer.h"
 #include "q7_impressora.h"
 #include "sample_receipts.h"
 
@@ -115,10 +115,11 @@ const std::function<void(Arguments&)> exports[] = {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    static HostilePrinter printer(HostilePrinter::Line::Tcp);
+    static TcpPrinter printer({}, TcpPrinter::Keep::Nothing);
     static constexpr const char* models[] = {"VANTA", "ORLA-K", "SORBE", "DUNEL"};
     Arguments arguments(data, size);
     const char* model = models[arguments.choice(std::size(models))];
+    printer.change([model](PrinterScript& script) { script.model = model; });
     // A busy machine may keep the printer from answering in time; not thrice.
     int opened = openOn(printer, model);
     for (int attempt = 0; opened != 0; ++attempt, opened = openOn(printer, model)) {

@@ -1,6 +1,6 @@
 // Any bytes as the printer's answer to whatever it is asked.
 
-#include "hostile_printer.h"
+#include "fake_printer.h"
 #include "q7_impressora.h"
 #include "sample_receipts.h"
 
@@ -11,22 +11,25 @@ using namespace q7test;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    static HostilePrinter printer(HostilePrinter::Line::Tcp);
+    static TcpPrinter printer({}, TcpPrinter::Keep::Nothing);
+    const auto answerWith = [](const std::string& reply) {
+        printer.change([&](PrinterScript& script) { script.anyAnswer = reply; });
+    };
     if (size < 2)
         return 0;
     const std::string reply(reinterpret_cast<const char*>(data) + 1, size - 1);
     if (data[0] >= 0xC0) { // the model's name
-        printer.answerWith(reply);
+        answerWith(reply);
         const int result = openOn(printer);
         if (result != Q7_OK && result != Q7_ERR_MODEL && result != Q7_ERR_UNKNOWN_PRINTER)
             std::abort();
         FechaConexaoImpressora();
         return 0;
     }
-    printer.answerWith({});
+    answerWith({});
     if (openOn(printer) != 0)
         std::abort();
-    printer.answerWith(reply);
+    answerWith(reply);
     const int kind = data[0] % 16;
     if (data[0] < 0x40) {
         char* const name = IdImpressora(kind % 7);

@@ -4,7 +4,7 @@
 //
 // Neither memory nor anything else may grow from life to life.
 
-#include "hostile_printer.h"
+#include "fake_printer.h"
 #include "own_resources.h"
 
 #include <cstdio>
@@ -20,7 +20,7 @@ int main(int argc, char** argv)
         return 2;
     const long count = std::atol(argv[2]);
     constexpr long first = 50; // what others set up at first use is there then
-    HostilePrinter printer(HostilePrinter::Line::Tcp);
+    const TcpPrinter printer({}, TcpPrinter::Keep::Nothing);
     OwnResources resources;
     std::size_t bytes = 0;
     for (long cycle = 0; cycle < first + count; ++cycle) {

@@ -25,14 +25,6 @@ SampleReceipt sample(const char* name, Kind kind, int options, const std::string
 
 } // namespace
 
-int openOn(HostilePrinter& printer, const char* model)
-{
-    printer.setModel(model);
-    return printer.terminal().empty()
-               ? AbreConexaoImpressora(3, model, "127.0.0.1", printer.port())
-               : AbreConexaoImpressora(2, model, printer.terminal().c_str(), 9600);
-}
-
 int SampleReceipt::print(const std::string& document) const
 {
     switch (kind) {

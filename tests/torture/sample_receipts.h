@@ -1,16 +1,11 @@
-// What the campaigns print, and where: one receipt of each kind, on a hostile printer.
+// What the campaigns print: one receipt of each kind.
 #pragma once
-
-#include "hostile_printer.h"
 
 #include <string>
 #include <vector>
 
 namespace q7test
 {
-
-/** Opens a connection to that printer, which answers as that model; the export's result. */
-int openOn(HostilePrinter& printer, const char* model = "VANTA");
 
 struct SampleReceipt {
     enum class Kind { Sale, Cancellation, Note };

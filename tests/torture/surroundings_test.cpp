@@ -2,7 +2,6 @@
 // disks that fail, documents of absurd size.
 
 #include "export_fixture.h"
-#include "hostile_printer.h"
 #include "own_resources.h"
 #include "sample_receipts.h"
 
@@ -23,17 +22,15 @@ namespace
 {
 
 /** Prints one of each kind and closes; what the printer got. */
-std::string printAll(HostilePrinter::Line line = HostilePrinter::Line::Tcp,
-                     std::size_t expectedSize = 0)
+std::string printAll(FakePrinter::Line line = FakePrinter::Line::Tcp)
 {
-    HostilePrinter printer(line, HostilePrinter::Keep::Bytes);
+    const FakePrinter printer({}, line);
     EXPECT_EQ(0, openOn(printer));
     for (const SampleReceipt& receipt : sampleReceipts())
         EXPECT_EQ(0, receipt.print()) << receipt.name;
     EXPECT_EQ(4, StatusImpressora(2));
     EXPECT_EQ(0, FechaConexaoImpressora());
-    return line == HostilePrinter::Line::Tcp ? printer.waitForClose()
-                                             : printer.waitForBytes(expectedSize);
+    return printer.waitForClose();
 }
 
 TEST(Surroundings, ASignalEveryMillisecond)
@@ -45,9 +42,9 @@ TEST(Surroundings, ASignalEveryMillisecond)
     const itimerval eachMillisecond = {{0, 1000}, {0, 1000}};
     const itimerval never = {};
     ::setitimer(ITIMER_REAL, &eachMillisecond, nullptr);
-    for (const auto line : {HostilePrinter::Line::Tcp, HostilePrinter::Line::Terminal})
+    for (const auto line : {FakePrinter::Line::Tcp, FakePrinter::Line::Serial})
         for (int round = 0; round < 10; ++round)
-            EXPECT_TRUE(sameBytes(expected, printAll(line, expected.size())));
+            EXPECT_TRUE(sameBytes(expected, printAll(line)));
     ::setitimer(ITIMER_REAL, &never, nullptr);
 }
 
@@ -58,7 +55,7 @@ TEST(Surroundings, DescriptorsUsedUp)
 #endif
     const DataFolder data;
     const std::string expected = printAll();
-    HostilePrinter printer(HostilePrinter::Line::Tcp);
+    const TcpPrinter printer;
     rlimit old = {};
     ASSERT_EQ(0, ::getrlimit(RLIMIT_NOFILE, &old));
     const OwnResources before;
@@ -171,7 +168,7 @@ TEST(Surroundings, ALogOver4Gigabytes)
 
 TEST(Surroundings, AForkBetweenCalls)
 {
-    HostilePrinter printer(HostilePrinter::Line::Tcp);
+    const TcpPrinter printer;
     ASSERT_EQ(0, openOn(printer));
     EXPECT_EQ(1, ImpressaoTexto("x", 0, 0, 0));
     for (int round = 0; round < 20; ++round) {
@@ -188,7 +185,7 @@ TEST(Surroundings, AForkBetweenCalls)
 
 TEST(Surroundings, TwoThreadsAtOnce)
 {
-    HostilePrinter printer(HostilePrinter::Line::Tcp);
+    const TcpPrinter printer;
     ASSERT_EQ(0, openOn(printer));
     std::atomic<bool> isOver = false;
     std::thread asking([&] {
@@ -230,7 +227,7 @@ std::string with(std::string xml, const std::string& element, const std::string&
 
 TEST(Surroundings, TimeGrowsAsTheDocumentDoes)
 {
-    HostilePrinter printer(HostilePrinter::Line::Tcp);
+    const TcpPrinter printer;
     ASSERT_EQ(0, openOn(printer));
     const SampleReceipt& sale = sampleReceipts()[0];
     const std::size_t keyAt = sale.xml.find("Id=\"CFe") + 7;

@@ -16,7 +16,7 @@ namespace
 class OwnTill : public Till
 {
 public:
-    int open(HostilePrinter& printer) override { return openOn(printer); }
+    int open(const FakePrinter& printer) override { return openOn(printer); }
     int print(const SampleReceipt& receipt) override { return receipt.print(); }
     int printText() override { return ImpressaoTexto("x", 0, 0, 0); }
     int status() override { return StatusImpressora(2); }
@@ -61,7 +61,7 @@ public:
     ToldTill(const ToldTill&) = delete;
     ToldTill& operator=(const ToldTill&) = delete;
 
-    int open(HostilePrinter& printer) override
+    int open(const FakePrinter& printer) override
     {
         return tell("open 3 127.0.0.1 " + std::to_string(printer.port()) + " VANTA");
     }

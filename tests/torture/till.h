@@ -1,7 +1,7 @@
 // Who makes the calls of a campaign: this process, or a program of its own that is told to.
 #pragma once
 
-#include "hostile_printer.h"
+#include "fake_printer.h"
 #include "own_resources.h"
 #include "sample_receipts.h"
 
@@ -15,7 +15,7 @@ class Till
 {
 public:
     virtual ~Till() = default;
-    virtual int open(HostilePrinter& printer) = 0;
+    virtual int open(const FakePrinter& printer) = 0;
     virtual int print(const SampleReceipt& receipt) = 0;
     virtual int printText() = 0;
     virtual int status() = 0;

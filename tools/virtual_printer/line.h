@@ -27,8 +27,8 @@ public:
     /** Writes what finds room, without waiting; returns how much. */
     virtual std::size_t write(std::string_view bytes) = 0;
 
-    enum class Ending { Reset, Close };
-    /** The printer vanishes. */
+    enum class Ending { Reset, Close, HalfClose };
+    /** The printer vanishes; half-closed it still reads, where the line knows that. */
     virtual void vanish(Ending how) = 0;
     virtual void close() = 0;
     /** Whether another may come to the far end when one has left. */
@@ -58,7 +58,12 @@ public:
         std::error_code lost;
         return m_stream.write_some(asio::buffer(bytes.data(), bytes.size()), lost);
     }
-    void vanish(Ending) override { close(); }
+    void vanish(Ending how) override
+    {
+        if (how != Ending::HalfClose) {
+            close();
+        }
+    }
     void close() override
     {
         std::error_code closedAlready;

@@ -37,6 +37,10 @@ Misbehaviour
   --read-rate N       read N bytes a second
   --reset-after N     reset the connection after N bytes
   --close-after N     close the connection after N bytes
+  --shut-after N      close its own side of the connection after N bytes
+  --stall-after N     read no more from the connection after N bytes
+  --garbage-after N   send 4096 arbitrary bytes after N bytes
+  --babble-after N    send arbitrary bytes without end after N bytes
 Output
   --output DIR        folder of the files, "." by default: NAME-J.bin has the bytes of connection J,
                       NAME-J.list its commands, NAME-J-R.png and NAME-J-R.txt its receipt R
@@ -87,11 +91,11 @@ template <typename Number> Option number(Number& target, int highest = many)
             }};
 }
 
-Option exitAfter(Behaviour& behaviour, Behaviour::Exit how)
+Option faultAfter(Behaviour& behaviour, Behaviour::Fault fault)
 {
-    return {true, [&behaviour, how](const std::string& name, const std::string& value) {
-                behaviour.exit = how;
-                behaviour.exitAfterBytes = static_cast<std::uint64_t>(numberOf(name, value, many));
+    return {true, [&behaviour, fault](const std::string& name, const std::string& value) {
+                behaviour.fault = fault;
+                behaviour.faultAfterBytes = static_cast<std::uint64_t>(numberOf(name, value, many));
             }};
 }
 
@@ -150,8 +154,12 @@ Options parseOptions(const std::vector<std::string>& arguments)
         {"--prompt", number(behaviour.promptReplies)},
         {"--unasked", number(behaviour.unaskedStatusMs)},
         {"--read-rate", number(behaviour.readBytesPerSecond)},
-        {"--reset-after", exitAfter(behaviour, Behaviour::Exit::Reset)},
-        {"--close-after", exitAfter(behaviour, Behaviour::Exit::Close)},
+        {"--reset-after", faultAfter(behaviour, Behaviour::Fault::Reset)},
+        {"--close-after", faultAfter(behaviour, Behaviour::Fault::Close)},
+        {"--shut-after", faultAfter(behaviour, Behaviour::Fault::HalfClose)},
+        {"--stall-after", faultAfter(behaviour, Behaviour::Fault::Stall)},
+        {"--garbage-after", faultAfter(behaviour, Behaviour::Fault::Garbage)},
+        {"--babble-after", faultAfter(behaviour, Behaviour::Fault::Babble)},
         {"--output", text(options.output)},
         {"--name", text(options.name)},
         {"--no-picture", flag(options.pictures, false)},

@@ -10,16 +10,20 @@ public:
 
     void received(std::string_view bytes) override
     {
-        change([bytes](Record& record) {
+        change([this, bytes](Record& record) {
             record.lastByte = std::chrono::steady_clock::now();
             record.firstByte = record.bytes.empty() ? record.lastByte : record.firstByte;
-            record.bytes.append(bytes);
+            append(record.bytes, bytes);
         });
     }
     void command(const Command& /*command*/) override {}
     void sent(std::string_view bytes) override
     {
-        change([bytes](Record& record) { record.sent.append(bytes); });
+        change([this, bytes](Record& record) { append(record.sent, bytes); });
+    }
+    void faulted() override
+    {
+        change([](Record& record) { record.faulted = true; });
     }
     void ended() override
     {
@@ -27,6 +31,12 @@ public:
     }
 
 private:
+    void append(std::string& kept, std::string_view bytes) const
+    {
+        if (m_printer.m_keep == Keep::All) {
+            kept.append(bytes);
+        }
+    }
     template <typename Change> void change(Change apply)
     {
         const std::lock_guard<std::mutex> lock(m_printer.m_mutex);
@@ -38,13 +48,17 @@ private:
     std::size_t m_index;
 };
 
-RecordingPrinter::RecordingPrinter(const ServerSettings& settings)
-    : m_server(settings,
-               [this](int number, const Model&) {
+RecordingPrinter::RecordingPrinter(const ServerSettings& settings, Keep keep)
+    : m_keep(keep),
+      m_server(settings,
+               [this](int, const Model&) {
                    const std::lock_guard<std::mutex> lock(m_mutex);
+                   if (m_keep == Keep::Nothing) {
+                       m_records.clear();
+                   }
                    m_records.emplace_back();
                    m_changed.notify_all();
-                   return std::make_unique<Recorder>(*this, static_cast<std::size_t>(number - 1));
+                   return std::make_unique<Recorder>(*this, m_records.size() - 1);
                }),
       m_thread([this] { m_server.run(); })
 {

@@ -19,18 +19,23 @@ public:
         std::string sent; // answers and unasked status bytes
         std::chrono::steady_clock::time_point firstByte;
         std::chrono::steady_clock::time_point lastByte;
+        bool faulted = false;
         bool ended = false;
     };
     using Records = std::vector<Record>;
 
-    /** Listens at once. Throws std::system_error. */
-    explicit RecordingPrinter(const ServerSettings& settings = {});
+    enum class Keep { All, Nothing };
+
+    /** Listens at once. Keep::Nothing: one record, without bytes, for whichever connection is the
+     *  latest; it takes no memory however long the printer serves. Throws std::system_error. */
+    explicit RecordingPrinter(const ServerSettings& settings = {}, Keep keep = Keep::All);
     ~RecordingPrinter();
     RecordingPrinter(const RecordingPrinter&) = delete;
     RecordingPrinter& operator=(const RecordingPrinter&) = delete;
 
     std::uint16_t port() const { return m_server.port(); }
     const std::string& serialPath() const { return m_server.serialPath(); }
+    void setModel(const Model& model) { m_server.setModel(model); }
     void setState(const State& state) { m_server.setState(state); }
     void setBehaviour(const Behaviour& behaviour) { m_server.setBehaviour(behaviour); }
 
@@ -47,6 +52,7 @@ public:
 private:
     class Recorder;
 
+    const Keep m_keep;
     mutable std::mutex m_mutex;
     mutable std::condition_variable m_changed;
     Records m_records;

@@ -10,6 +10,7 @@
 #include <csignal>
 #include <deque>
 #include <list>
+#include <random>
 #include <utility>
 
 namespace virtual_printer
@@ -23,6 +24,18 @@ using Clock = asio::steady_timer::clock_type;
 
 /** While nobody has the serial device open, the system reports a hang-up at once and for ever. */
 constexpr milliseconds serialLookPeriod{10};
+
+const std::string& garbage()
+{
+    static const std::string bytes = [] {
+        std::string arbitrary(4096, '\0');
+        std::minstd_rand next(12345); // the same each time
+        std::generate(arbitrary.begin(), arbitrary.end(),
+                      [&next] { return static_cast<char>(next() >> 16); });
+        return arbitrary;
+    }();
+    return bytes;
+}
 
 class TcpLine : public LineOver<tcp::socket>
 {
@@ -41,7 +54,7 @@ public:
             // Ends the connection also where unread bytes would have the close reset it.
             m_stream.shutdown(tcp::socket::shutdown_send, goneAlready);
         }
-        close();
+        LineOver::vanish(how);
     }
     bool staysOpen() const override { return false; }
 };
@@ -58,7 +71,8 @@ public:
           m_readTimer(context),
           m_replyTimer(context),
           m_unaskedTimer(context),
-          m_showTimer(context)
+          m_showTimer(context),
+          m_babbleTimer(context)
     {
     }
 
@@ -75,6 +89,7 @@ public:
                                  : CommandParser::TildeQueries::No);
         m_received = 0;
         m_replies = 0;
+        m_hasFaulted = false;
         awaitUnasked();
     }
 
@@ -92,6 +107,7 @@ public:
         }
         m_replyTimer.cancel();
         m_unaskedTimer.cancel();
+        m_babbleTimer.cancel();
         m_unaskedAwaited = false;
         m_showTimer.cancel();
         m_showAwaited = false;
@@ -159,18 +175,10 @@ private:
             wanted = static_cast<std::size_t>(
                 std::clamp(manner.readBytesPerSecond / readsPerSecond, 1, 65536));
         }
-        const auto stopAt = [&](std::uint64_t bytes) {
-            const std::uint64_t left = bytes - std::min(bytes, m_received);
-            wanted = static_cast<std::size_t>(std::min<std::uint64_t>(wanted, left));
-        };
-        stopAt(manner.readBytesAtMost);
-        if (wanted == 0) {
-            m_nextRead = Clock::time_point::max();
-            return Reading::Open;
-        }
-        const bool exits = manner.exit != Behaviour::Exit::Stay;
-        if (exits) {
-            stopAt(manner.exitAfterBytes);
+        const bool isToFault = manner.fault != Behaviour::Fault::None && !m_hasFaulted;
+        if (isToFault) {
+            wanted = static_cast<std::size_t>(std::min<std::uint64_t>(
+                wanted, manner.faultAfterBytes - std::min(manner.faultAfterBytes, m_received)));
         }
 
         std::error_code error;
@@ -198,22 +206,56 @@ private:
             awaitUnasked(); // the behaviour may have changed
         }
 
-        if (exits && m_received >= manner.exitAfterBytes) {
-            m_line->vanish(manner.exit == Behaviour::Exit::Reset ? Line::Ending::Reset
-                                                                 : Line::Ending::Close);
-            closeLine();
-            return Reading::Ended;
+        if (isToFault && m_received >= manner.faultAfterBytes) {
+            sendDue(); // what was asked before
+            return fault(manner.fault);
         }
         return Reading::Open;
+    }
+
+    Reading fault(Behaviour::Fault fault)
+    {
+        m_hasFaulted = true;
+        switch (fault) {
+        case Behaviour::Fault::HalfClose:
+            m_line->vanish(Line::Ending::HalfClose);
+            break;
+        case Behaviour::Fault::Stall:
+            m_nextRead = Clock::time_point::max();
+            break;
+        case Behaviour::Fault::Garbage:
+            m_line->write(garbage());
+            break;
+        case Behaviour::Fault::Babble:
+            babble();
+            break;
+        default:
+            m_line->vanish(fault == Behaviour::Fault::Reset ? Line::Ending::Reset
+                                                            : Line::Ending::Close);
+            closeLine();
+        }
+        m_job->faulted();
+        return m_gone ? Reading::Ended : Reading::Open;
+    }
+
+    // Some megabytes a second: links are no faster.
+    void babble()
+    {
+        m_line->write(garbage());
+        m_babbleTimer.expires_after(milliseconds(1));
+        m_babbleTimer.async_wait(whileOpen([](Connection& self) { self.babble(); }));
     }
 
     void answer(const Command& command)
     {
         const Behaviour manner = m_server.behaviour();
         const auto fixed = manner.answers.find(command.bytes);
-        const std::string reply = fixed != manner.answers.end()
-                                      ? fixed->second
-                                      : replyTo(command, m_model, m_server.state());
+        std::string reply = fixed != manner.answers.end()
+                                ? fixed->second
+                                : replyTo(command, m_model, m_server.state());
+        if (fixed == manner.answers.end() && !reply.empty() && !manner.anyAnswer.empty()) {
+            reply = manner.anyAnswer;
+        }
         // A printer keeps few answers: who asks on and on without reading loses the later ones.
         constexpr std::size_t mostWaiting = 4096;
         if (reply.empty() || m_outgoing.size() >= mostWaiting) {
@@ -304,7 +346,9 @@ private:
     asio::steady_timer m_unaskedTimer;
     asio::steady_timer m_showTimer;
     bool m_showAwaited = false;
+    asio::steady_timer m_babbleTimer;
     bool m_unaskedAwaited = false;
+    bool m_hasFaulted = false;
     bool m_gone = false;
 };
 
@@ -322,7 +366,7 @@ struct Server::Links {
         acceptor.open(wanted.protocol());
         claimPort(acceptor.native_handle());
         if (settings.behaviour.readBytesPerSecond > 0 ||
-            settings.behaviour.readBytesAtMost < UINT64_MAX) {
+            settings.behaviour.fault == Behaviour::Fault::Stall) {
             keepBuffersSmall(acceptor);
         }
         acceptor.bind(wanted);

@@ -20,14 +20,16 @@ struct Behaviour {
     int promptReplies = 0;   // so many answers per connection come as they should
     int unaskedStatusMs = 0; // period of unasked status bytes; 0 for none
     std::map<std::string, std::string> answers; // by query, before the model's; may be empty
+    std::string anyAnswer;                      // to each other query that the model answers
 
-    int readBytesPerSecond = 0;                 // 0 for as fast as they come
-    std::uint64_t slowBytes = UINT64_MAX;       // so many of a connection at that speed
-    std::uint64_t readBytesAtMost = UINT64_MAX; // of a connection; then it reads no more
+    int readBytesPerSecond = 0;           // 0 for as fast as they come
+    std::uint64_t slowBytes = UINT64_MAX; // so many of a connection at that speed
 
-    enum class Exit { Stay, Reset, Close };
-    Exit exit = Exit::Stay;           // how the printer vanishes
-    std::uint64_t exitAfterBytes = 0; // received on a connection
+    // Reset and Close end a connection, HalfClose says no more on it, Stall reads no more from it;
+    // Garbage is said once, Babble without end.
+    enum class Fault { None, Reset, Close, HalfClose, Stall, Garbage, Babble };
+    Fault fault = Fault::None;
+    std::uint64_t faultAfterBytes = 0; // received on a connection, and not one more read before
 };
 
 /** What becomes of the bytes of one connection. Called on the thread that runs the server. */
@@ -41,6 +43,8 @@ public:
 
     virtual void received(std::string_view bytes) = 0;
     virtual void command(const Command& command) = 0;
+    /** What the printer does wrong by intent has just happened to the connection. */
+    virtual void faulted() {}
     /** An answer, or a byte of it, or an unasked status left. */
     virtual void sent(std::string_view /*bytes*/) {}
     /** Bytes came a moment ago, within showPeriod: what there is can be shown. */

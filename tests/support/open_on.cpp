@@ -1,0 +1,15 @@
+// Apart from the printer: who only plays one has no library.
+#include "fake_printer.h"
+#include "q7_impressora.h"
+
+namespace q7test
+{
+
+int openOn(const FakePrinter& printer, const std::string& model)
+{
+    const std::string& serial = printer.serialPath();
+    return serial.empty() ? AbreConexaoImpressora(3, model.c_str(), "127.0.0.1", printer.port())
+                          : AbreConexaoImpressora(2, model.c_str(), serial.c_str(), 9600);
+}
+
+} // namespace q7test

@@ -23,11 +23,12 @@ char hexByte(std::string_view pair)
     return static_cast<char>(std::stoi(std::string(pair), nullptr, 16));
 }
 
-// Reads a quoted text from `at`, which is behind its opening quote; leaves it behind the closing one.
+// Reads a quoted text whose opening quote is at `at`; leaves it behind the closing one.
 std::string unquoted(std::string_view line, std::size_t& at)
 {
     std::string bytes;
-    for (; at < line.size() && line[at] != '"'; ++at) {
+    const char quote = line[at++];
+    for (; at < line.size() && line[at] != quote; ++at) {
         if (line[at] != '\\' || at + 1 == line.size()) {
             bytes += line[at];
         } else if (line[++at] == 'x') {
@@ -71,15 +72,11 @@ std::string excerpt(std::string_view bytes, std::size_t offset)
 std::string hex(std::string_view notation)
 {
     std::string bytes;
-    for (std::size_t at = 0; at < notation.size();) {
+    for (std::size_t at = 0; at < notation.size() && notation[at] != ';';) {
         if (std::isspace(static_cast<Byte>(notation[at]))) {
             ++at;
-        } else if (notation[at] == '\'') {
-            const std::size_t end = notation.find('\'', at + 1);
-            if (end == std::string_view::npos)
-                throw std::invalid_argument("text without its closing quote");
-            bytes += notation.substr(at + 1, end - at - 1);
-            at = end + 1;
+        } else if (notation[at] == '\'' || notation[at] == '"') {
+            bytes += unquoted(notation, at);
         } else {
             bytes += hexByte(notation.substr(at, 2));
             at += 2;
@@ -91,18 +88,8 @@ std::string hex(std::string_view notation)
 std::string encoded(const std::vector<std::string>& lines)
 {
     std::string bytes;
-    for (const std::string& utf8 : lines) {
-        const std::string line = latin1(utf8);
-        for (std::size_t at = 0; at < line.size() && line[at] != ';';) {
-            if (line[at] == '"') {
-                bytes += unquoted(line, ++at);
-                continue;
-            }
-            const std::size_t end = std::min(line.find_first_of("\";", at), line.size());
-            bytes += hex(line.substr(at, end - at));
-            at = end;
-        }
-    }
+    for (const std::string& line : lines)
+        bytes += hex(latin1(line));
     return bytes;
 }
 

@@ -9,17 +9,17 @@
 namespace q7test
 {
 
-/** "1B 61 01 'abc' 0A" as bytes: hexadecimal pairs, and text between single quotes. White space is
- *  free between them. Throws on anything else. */
+/** "1B 61 01 'abc' 0A" as bytes: hexadecimal pairs, and texts between single or double quotes, in which
+ *  \n, \\, \xNN and a quote behind a backslash are escapes. White space is free between them, ";"
+ *  begins a comment. Throws on anything else. */
 std::string hex(std::string_view notation);
 
-/** The bytes that lines in the form of golden files stand for:
+/** The bytes that the lines of a golden file stand for, each as above:
  *
  *      1B 61 01        ; ESC a
  *      "Descrição\n"
  *
- *  A line is hexadecimal bytes and quoted texts; "; " begins a comment. In texts \n, \", \\ and \xNN
- *  are escapes, and every character is one Latin-1 byte. Throws on a malformed line. */
+ *  They are UTF-8, and every character is one Latin-1 byte; throws on any other. */
 std::string encoded(const std::vector<std::string>& lines);
 
 /** Whether the bytes are the same. A failure shows the commands around the first difference. */

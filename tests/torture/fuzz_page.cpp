@@ -2,35 +2,25 @@
 
 #include "printer_page.h"
 
+#include <asio/ip/tcp.hpp>
 #include <cstdlib>
-#include <netinet/in.h>
-#include <sys/socket.h>
 #include <thread>
-#include <unistd.h>
+
+using namespace std::chrono_literals;
 
 namespace
 {
 
-/** What the page answers to a request, as far as it comes without a pause. */
-std::string answerTo(std::uint16_t port, const std::string& request, int patienceMs)
+/** What the page answers to a request within that time: some answers go on as long as somebody listens,
+ *  and a request may never be whole. */
+std::string answerTo(std::uint16_t port, const std::string& request,
+                     std::chrono::milliseconds patience)
 {
-    const int connection = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    sockaddr_in address = {};
-    address.sin_family = AF_INET;
-    address.sin_port = htons(port);
-    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    // Some answers go on as long as somebody listens, and a request may never be whole.
-    const timeval patience = {patienceMs / 1000, patienceMs % 1000 * 1000};
-    ::setsockopt(connection, SOL_SOCKET, SO_RCVTIMEO, &patience, sizeof patience);
-    std::string answer;
-    if (::connect(connection, reinterpret_cast<sockaddr*>(&address), sizeof address) == 0) {
-        static_cast<void>(!::send(connection, request.data(), request.size(), MSG_NOSIGNAL));
-        char buffer[65536];
-        for (ssize_t count = 0; (count = ::recv(connection, buffer, sizeof buffer, 0)) > 0;)
-            answer.append(buffer, static_cast<std::size_t>(count));
-    }
-    ::close(connection);
-    return answer;
+    asio::ip::tcp::iostream connection;
+    connection.expires_after(patience);
+    connection.connect(asio::ip::tcp::endpoint(asio::ip::address_v4::loopback(), port));
+    connection << request << std::flush;
+    return {std::istreambuf_iterator<char>(connection), {}};
 }
 
 printer_page::PrinterPage& servedPage()
@@ -56,9 +46,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (size > 0 && data[0] % 2 == 0)
         request =
             "GET /" + request + " HTTP/1.1\r\nHost: " + host + "\r\nConnection: close\r\n\r\n";
-    answerTo(port, request, 20);
+    answerTo(port, request, 20ms);
     // It serves on.
-    if (answerTo(port, "GET / HTTP/1.1\r\nHost: " + host + "\r\nConnection: close\r\n\r\n", 10'000)
+    if (answerTo(port, "GET / HTTP/1.1\r\nHost: " + host + "\r\nConnection: close\r\n\r\n", 10s)
             .find("200") == std::string::npos)
         std::abort();
     return 0;

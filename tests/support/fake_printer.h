@@ -58,5 +58,7 @@ struct PtyPrinter : FakePrinter {
 
 /** Opens a connection to that printer by the library's export and returns the result. */
 int openOn(const FakePrinter& printer, const std::string& model = "VANTA");
+/** The same, up to three times: a busy machine may keep the printer from answering in time. */
+int openPatientlyOn(const FakePrinter& printer, const std::string& model = "VANTA");
 
 } // namespace q7test

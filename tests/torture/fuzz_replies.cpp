@@ -27,7 +27,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         return 0;
     }
     answerWith({});
-    if (openOn(printer) != 0)
+    if (openPatientlyOn(printer) != 0)
         std::abort();
     answerWith(reply);
     const int kind = data[0] % 16;

@@ -76,7 +76,8 @@ TEST(NfceItems, FillWholeLines)
          "12345 ABCDEFGHI LEITE              1     UN         5      10,58"},
         {"1234|ABCDEFGH|LEITE|1|UN|5.00|10.58|", 0x100, 64,
          "1234ABCDEFGHLEITE                  1     UN      5,00      10,58"},
-        // An amount, a quantity and a unit that leave no blank, and a price that fills its column.
+        // An amount, a quantity and a unit that leave no blank; a price that fills its column, and
+        // one that is longer.
         {"1|101|LEITE|2|UN|5.29|99999.99|", 0, 56,
          "101     LEITE                 2    UN     5,29 99.999,99"},
         {"1|101|LEITE|2|UN|5.29|100000.00|", 0, 56,
@@ -88,6 +89,8 @@ TEST(NfceItems, FillWholeLines)
         {"1|101|LEITE|2|UNID|5.29|10.58|", 0, 56,
          "101     LEITE                                           "
          "                                       2 UNID 5,29 10,58"},
+        {"1|101|LEITE|2|UN|12.3456|10.58|", 0, 56,
+         "101     LEITE                 2    UN  12,3456     10,58"},
         {"1|101|LEITE|2|UN|9999.99|10.58|", 0, 56,
          "101     LEITE                                           "
          "                                     2 UN 9.999,99 10,58"},

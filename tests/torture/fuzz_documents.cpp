@@ -19,8 +19,10 @@ extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t s
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     static const TcpPrinter printer({}, TcpPrinter::Keep::Nothing);
-    static const bool isOpen = openOn(printer) == 0;
-    if (!isOpen || size < 2)
+    static const bool isOpen = openPatientlyOn(printer) == 0;
+    if (!isOpen)
+        std::abort();
+    if (size < 2)
         return 0;
     SampleReceipt receipt = sampleReceipts()[data[size - 1] % sampleReceipts().size()];
     receipt.options = data[size - 2] | (data[size - 1] & 0x0C) << 7;

@@ -148,6 +148,8 @@ TEST_F(Usb, AVanishedDeviceGivesTheSystemsError)
     EXPECT_EQ(-81, reader.readReply(std::chrono::milliseconds(50), isOneByte).status);
     EXPECT_TRUE(connection.isOpen()); // until the application closes it
     EXPECT_EQ(0, connection.close());
+    // Nothing is left that could be said not to have been delivered.
+    EXPECT_EQ(std::vector<std::string>(3, "COMANDOSENVIADOS 616263"), data.takeLog());
 }
 
 TEST_F(Usb, ACloseThatFailsGivesTheSystemsError)
@@ -157,8 +159,11 @@ TEST_F(Usb, ACloseThatFailsGivesTheSystemsError)
     ASSERT_EQ(0, open("VANTA"));
     std::error_code ignored;
     for (const auto& entry : fs::directory_iterator("/proc/self/fd"))
-        if (fs::read_symlink(entry, ignored) == printer.serialPath())
-            ::close(std::stoi(entry.path().filename()));
+        if (fs::read_symlink(entry, ignored) == printer.serialPath()) {
+            const int descriptor = std::stoi(entry.path().filename());
+            EXPECT_EQ(FD_CLOEXEC, ::fcntl(descriptor, F_GETFD)); // no child's
+            ::close(descriptor);
+        }
     EXPECT_EQ(EBADF, connection.close());
     EXPECT_FALSE(connection.isOpen());
 }

@@ -40,7 +40,17 @@ TEST_P(Command, SendsAndAnswers)
     EXPECT_TRUE(sameBytes(encoded({row.bytes}), takeSent()));
 }
 
-const Row plainRows[] = {
+const std::string long253(253, 'x');
+const std::string long255(255, 'x');
+const std::string long256(256, 'x');
+
+#define CODE128(data) CALL(ImpressaoCodigoBarras(8, data, 80, 2, 2))
+
+const std::string set128 = "{B" + std::string(254, '1');
+const std::string settings = "1D 68 50  1D 77 02  1D 48 02  ";
+const std::string settingsOfSorbe = "1D 68 50  1D 77 02  ";
+
+const Row commandRows[] = {
     {CALL(ImpressaoTexto("x", 2, 15, 119)), 1,
      R"(1B 40  1B 61 02  1B 21 01  1B 21 80  1D 42 01  1B 45 01  1D 21 77  1B 74 10 "x")"},
     {CALL(ImpressaoTexto("ação €\n", 0, 0, 0)), 7, R"(1B 40  1B 74 10 "ação ?\n")"},
@@ -76,14 +86,7 @@ const Row plainRows[] = {
     {CALL(ImprimeImagemMemoria("A", 3)), -131},
     {CALL(ImprimeImagemMemoria(nullptr, 1)), -131},
     {CALL(ImprimeImagemMemoria(" ~", 3)), -132},
-};
-INSTANTIATE_TEST_SUITE_P(Plain, Command, testing::ValuesIn(plainRows));
 
-const std::string long253(253, 'x');
-const std::string long255(255, 'x');
-const std::string long256(256, 'x');
-
-const Row qrRows[] = {
     // Three characters are announced, five bytes follow.
     {CALL(ImpressaoQRCode("ção", 1, 1)), 0,
      "1D 28 6B 03 00 31 43 01  1D 28 6B 03 00 31 45 30  1D 28 6B 06 00 31 50 30  C3 A7 C3 A3 6F"
@@ -113,16 +116,7 @@ const Row qrRows[] = {
     {CALL(ImpressaoQRCode("", 0, 0)), -53, "0A", "SORBE"},
     {CALL(ImpressaoQRCode("A", 0, 0)), -51, "0A", "SORBE"},
     {CALL(ImpressaoQRCode("A", 1, 0)), -52, "0A", "SORBE"},
-};
-INSTANTIATE_TEST_SUITE_P(QrCode, Command, testing::ValuesIn(qrRows));
 
-#define CODE128(data) CALL(ImpressaoCodigoBarras(8, data, 80, 2, 2))
-
-const std::string set128 = "{B" + std::string(254, '1');
-const std::string settings = "1D 68 50  1D 77 02  1D 48 02  ";
-const std::string settingsOfSorbe = "1D 68 50  1D 77 02  ";
-
-const Row barcodeRows[] = {
     {CODE128("{B12"), 0, settingsOfSorbe + "1D 6B 49 02 \"12\"", "SORBE"},
     {CODE128("Abc"), 0, settingsOfSorbe + "1D 6B 49 03 \"Abc\"", "SORBE"},
     // 256 bytes: the length's byte is 0, which ends the head.
@@ -137,7 +131,7 @@ const Row barcodeRows[] = {
     {CALL(ImpressaoCodigoBarras(8, nullptr, 255, 6, 5)), -63},
     {CALL(ImpressaoCodigoBarras(8, nullptr, 255, 6, 4)), -65},
 };
-INSTANTIATE_TEST_SUITE_P(Barcode, Command, testing::ValuesIn(barcodeRows));
+INSTANTIATE_TEST_SUITE_P(Exports, Command, testing::ValuesIn(commandRows));
 
 TEST_F(ExportTest, CallsAreLogged)
 {

@@ -122,51 +122,46 @@ TEST_P(Families, RefuseSendAnswerAndLog)
 
 // ---------------------------------------------------------------- port
 
-struct PortText {
-    const char* text;
-    int result;         // 0 where the machine's own ports decide
-    std::string opened; // what was logged; empty when no open was tried
-};
-
-class PortTexts : public ExportTest, public testing::WithParamInterface<PortText>
-{
-};
-
-TEST_P(PortTexts, OpenWhatTheyName)
-{
-    const PortText& row = GetParam();
-    const auto check = [&](int result) {
-        const Lines log = data.takeLog();
-        EXPECT_EQ(row.opened, log.empty() ? "" : log.front());
-        if (row.result != 0) {
-            EXPECT_EQ(row.result, result);
-        }
-    };
-    EXPECT_EQ(0, PrtPrinterCreator(h, "Vanta"));
-    check(PortOpen(h, row.text));
-    EXPECT_EQ(0, PrinterCreator(h, nullptr));
-    PrinterCreatorS(h, "Vanta");
-    check(PrtPortOpen(h, row.text));
-}
-
 #define OPENED(arguments) "FUNCAO AbreConexaoImpressora. PARAMETROS:" arguments
 
-const PortText portTexts[] = {
-    {"COM77,9600", -12, OPENED("2,VANTA,COM77,9600")},
-    {"na com77_9600_8", -12, OPENED("2,VANTA,NA COM77,9600")},
-    {"COM77,", -11, OPENED("2,VANTA,COM77,0")},
-    {"COM77", -2, ""},
-    {"NET,127.0.0.1,65537", -31, OPENED("3,VANTA,127.0.0.1,65537")},
-    {"Ethernet_127.0.0.1_65537", -31, OPENED("3,VANTA,127.0.0.1,65537")},
-    {"NET,127.0.0.1", 0, OPENED("3,VANTA,127.0.0.1,9100")},
-    {"NET", -2, ""},
-    {"USB", 0, OPENED("1,VANTA,,0")},
-    {"uma usb", 0, OPENED("1,VANTA,,0")},
-    {"USB,porta,7", 0, OPENED("1,VANTA,PORTA,7")},
-    {"LPT1,COM77,9600", -2, ""},
-    {nullptr, -2, ""},
-};
-INSTANTIATE_TEST_SUITE_P(Families, PortTexts, testing::ValuesIn(portTexts));
+TEST_F(ExportTest, PortTextsOpenWhatTheyName)
+{
+    constexpr int whatever = 1; // the machine's own ports decide
+    const struct {
+        const char* text;
+        int result;
+        std::string opened; // what is logged; empty when no open is tried
+    } rows[] = {
+        {"COM77,9600", -12, OPENED("2,VANTA,COM77,9600")},
+        {"na com77_9600_8", -12, OPENED("2,VANTA,NA COM77,9600")},
+        {"COM77,", -11, OPENED("2,VANTA,COM77,0")},
+        {"COM77", -2, ""},
+        {"NET,127.0.0.1,65537", -31, OPENED("3,VANTA,127.0.0.1,65537")},
+        {"Ethernet_127.0.0.1_65537", -31, OPENED("3,VANTA,127.0.0.1,65537")},
+        {"NET,127.0.0.1", whatever, OPENED("3,VANTA,127.0.0.1,9100")},
+        {"NET", -2, ""},
+        {"USB", whatever, OPENED("1,VANTA,,0")},
+        {"uma usb", whatever, OPENED("1,VANTA,,0")},
+        {"USB,porta,7", whatever, OPENED("1,VANTA,PORTA,7")},
+        {"LPT1,COM77,9600", -2, ""},
+        {nullptr, -2, ""},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.text != nullptr ? row.text : "no text");
+        const auto check = [&](int result) {
+            const Lines log = data.takeLog();
+            EXPECT_EQ(row.opened, log.empty() ? "" : log.front());
+            EXPECT_EQ(row.result, row.result == whatever ? whatever : result);
+            FechaConexaoImpressora();
+            data.takeLog();
+        };
+        EXPECT_EQ(0, PrtPrinterCreator(h, "Vanta"));
+        check(PortOpen(h, row.text));
+        EXPECT_EQ(0, PrinterCreator(h, nullptr));
+        PrinterCreatorS(h, "Vanta");
+        check(PrtPortOpen(h, row.text));
+    }
+}
 
 TEST_F(ExportTest, PortsOpenAndCloseInBothFamilies)
 {
@@ -217,34 +212,28 @@ TEST_F(ExportTest, TheFontAloneLeavesTheLastResult)
 
 constexpr int unchanged = 77;
 
-using StatusAndState = std::pair<int, int>;
-
-class PrinterStates : public ExportTest, public testing::WithParamInterface<StatusAndState>
+TEST_F(ExportTest, PrinterStatesAreThoseOfTheInterface)
 {
-};
-
-TEST_P(PrinterStates, AreThoseOfTheInterface)
-{
-    const auto [status, expected] = GetParam();
-    PrinterScript script;
-    script.state.drawerOpen = (status & 1) != 0; // asked for over the serial line alone
-    script.state.coverOpen = (status & 2) != 0;
-    script.state.paperNearEnd = (status & 4) != 0;
-    script.state.paperOut = (status & 8) != 0;
-    script.state.sensorSignalled = (status & 16) != 0; // asked for over the network alone
-    (status & 16) != 0 ? openTcp(script) : openSerial(script);
-    ASSERT_EQ(status, StatusImpressora(5));
-    for (const auto& ask : {GetPrinterState, PrtCheckPrinterState}) {
-        int state = unchanged;
-        EXPECT_EQ(expected == unchanged ? -126 : 0, ask(h, &state));
-        EXPECT_EQ(expected, state);
+    const std::pair<int, int> statusAndState[] = {
+        {0, 0}, {2, 2}, {4, 4}, {6, 6}, {12, 1}, {14, 5}, {1, unchanged}, {16, unchanged},
+    };
+    for (const auto& [status, expected] : statusAndState) {
+        PrinterScript script;
+        script.state.drawerOpen = (status & 1) != 0; // asked for over the serial line alone
+        script.state.coverOpen = (status & 2) != 0;
+        script.state.paperNearEnd = (status & 4) != 0;
+        script.state.paperOut = (status & 8) != 0;
+        script.state.sensorSignalled = (status & 16) != 0; // asked for over the network alone
+        (status & 16) != 0 ? openTcp(script) : openSerial(script);
+        ASSERT_EQ(status, StatusImpressora(5));
+        for (const auto& ask : {GetPrinterState, PrtCheckPrinterState}) {
+            int state = unchanged;
+            EXPECT_EQ(expected == unchanged ? -126 : 0, ask(h, &state)) << status;
+            EXPECT_EQ(expected, state) << status;
+        }
+        FechaConexaoImpressora();
     }
 }
-
-const StatusAndState printerStates[] = {
-    {0, 0}, {2, 2}, {4, 4}, {6, 6}, {12, 1}, {14, 5}, {1, unchanged}, {16, unchanged},
-};
-INSTANTIATE_TEST_SUITE_P(Families, PrinterStates, testing::ValuesIn(printerStates));
 
 TEST_F(ExportTest, DrawerStateFollowsThePolarity)
 {

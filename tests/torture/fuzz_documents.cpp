@@ -4,17 +4,10 @@
 #include "fake_printer.h"
 #include "q7_impressora.h"
 #include "sample_receipts.h"
-#include "xml_mutator.h"
 
 #include <cstdlib>
 
 using namespace q7test;
-
-extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t size,
-                                               std::size_t mostSize, unsigned seed)
-{
-    return mutateXml(data, size, mostSize, seed);
-}
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {

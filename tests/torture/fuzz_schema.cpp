@@ -2,19 +2,10 @@
 // byte of an input chooses which of the two it is. Q7_TORTURE_SCHEMA names the schema's file.
 
 #include "compiled_schema.h"
-#include "xml_mutator.h"
 
 #include <cstdlib>
 #include <fstream>
 #include <unistd.h>
-
-using namespace q7test;
-
-extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t size,
-                                               std::size_t mostSize, unsigned seed)
-{
-    return mutateXml(data, size, mostSize, seed);
-}
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {

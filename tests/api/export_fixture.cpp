@@ -35,7 +35,7 @@ void ExportTest::openSerial(const PrinterScript& script)
 void ExportTest::open(const std::string& model)
 {
     m_taken = 0;
-    ASSERT_EQ(0, openOn(*farEnd, model));
+    ASSERT_EQ(0, openPatientlyOn(*farEnd, model));
     takeSent();
     data.takeLog();
 }

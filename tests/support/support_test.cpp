@@ -4,17 +4,6 @@
 
 using namespace q7test;
 
-TEST(TestBytes, LinesReadAsAPersonWouldWriteThem)
-{
-    EXPECT_EQ(hex("1B 74 10") + "Pre\xE7o \"\\\n;\x01",
-              encoded({"; a comment", "1B 74 10   ; ESC t", R"("Preço \"\\\n;" "\x01" ; "x")"}));
-    EXPECT_EQ(hex("'It is' 0a 'x'"), "It is\nx");
-    EXPECT_THROW(encoded({"\"open"}), std::invalid_argument);
-    EXPECT_THROW(hex("'open"), std::invalid_argument);
-    EXPECT_THROW(encoded({"1B 4"}), std::invalid_argument);
-    EXPECT_THROW(sameAsGolden("there is no such file", ""), std::runtime_error);
-}
-
 TEST(TestBytes, AFailureMarksTheFirstDifference)
 {
     const testing::AssertionResult result =

@@ -1,10 +1,7 @@
 #include "sample_receipts.h"
 
 #include "q7_impressora.h"
-
-#include <fstream>
-#include <iterator>
-#include <stdexcept>
+#include "test_files.h"
 
 namespace q7test
 {
@@ -17,10 +14,7 @@ SampleReceipt sample(const char* name, Kind kind, int options, const std::string
                      const std::string& signature = {})
 {
     const std::string path = "examples/documents/" + document + ".xml";
-    std::ifstream file(Q7_PROJECT_FOLDER "/" + path);
-    if (!file)
-        throw std::runtime_error("no document " + path);
-    return {name, kind, options, path, {std::istreambuf_iterator<char>(file), {}}, signature};
+    return {name, kind, options, path, exampleDocument(document), signature};
 }
 
 } // namespace

@@ -1,13 +1,9 @@
 #include "browser.h"
 
-#include <csignal>
-#include <fstream>
-#include <stdexcept>
+#include <QProcess>
 
-#include <fcntl.h>
-#include <poll.h>
-#include <sys/wait.h>
-#include <unistd.h>
+#include <csignal>
+#include <stdexcept>
 
 namespace q7test
 {
@@ -18,59 +14,18 @@ using nlohmann::json;
 
 constexpr int replyTimeoutMs = 30'000;
 
-std::string fromBase64(const std::string& text)
-{
-    const std::string letters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
-    std::string bytes;
-    unsigned bits = 0;
-    int count = 0;
-    for (const char letter : text) {
-        const std::size_t value = letters.find(letter);
-        if (value == std::string::npos) {
-            break;
-        }
-        bits = bits << 6U | static_cast<unsigned>(value);
-        count += 6;
-        if (count >= 8) {
-            count -= 8;
-            bytes += static_cast<char>(bits >> static_cast<unsigned>(count) & 0xFFU);
-        }
-    }
-    return bytes;
-}
-
 } // namespace
 
 Browser::Browser(const std::string& program, const std::string& profile)
+    : m_process(std::make_unique<QProcess>())
 {
-    int to[2];
-    int from[2];
-    if (pipe2(to, O_CLOEXEC) != 0 || pipe2(from, O_CLOEXEC) != 0) {
-        throw std::runtime_error("no pipe to the browser");
-    }
-    const std::string folder = "--user-data-dir=" + profile;
-    m_process = fork();
-    if (m_process == 0) {
-        // The browser reads at 3 and writes at 4; neither may be one of the ends yet to be moved.
-        const int in = fcntl(to[0], F_DUPFD, 10);
-        const int out = fcntl(from[1], F_DUPFD, 10);
-        const int nothing = ::open("/dev/null", O_RDWR);
-        dup2(in, 3);
-        dup2(out, 4);
-        for (const int fd : {0, 1, 2}) {
-            dup2(nothing, fd);
-        }
-        setpgid(0, 0);
-        execl(program.c_str(), program.c_str(), "--headless", "--no-sandbox", "--disable-gpu",
-              "--no-first-run", "--hide-scrollbars", "--disable-dev-shm-usage",
-              "--remote-debugging-pipe", folder.c_str(), "about:blank", nullptr);
-        _exit(127);
-    }
-    close(to[0]);
-    close(from[1]);
-    m_toBrowser = to[1];
-    m_fromBrowser = from[0];
-    signal(SIGPIPE, SIG_IGN); // a browser that is gone is seen by its silence
+    // It reads at 3 and writes at 4, in a session of its own, so that all of it can be ended.
+    m_process->start("setsid",
+                     {"sh", "-c", R"(exec "$0" "$@" 3<&0 4>&1 </dev/null >/dev/null 2>&1)",
+                      QString::fromStdString(program), "--headless", "--no-sandbox",
+                      "--disable-gpu", "--no-first-run", "--hide-scrollbars",
+                      "--disable-dev-shm-usage", "--remote-debugging-pipe",
+                      "--user-data-dir=" + QString::fromStdString(profile), "about:blank"});
     const json target = call("Target.createTarget", {{"url", "about:blank"}}, false);
     m_session = call("Target.attachToTarget",
                      {{"targetId", target.at("targetId")}, {"flatten", true}}, false)
@@ -80,31 +35,13 @@ Browser::Browser(const std::string& program, const std::string& profile)
 
 Browser::~Browser()
 {
-    close(m_toBrowser);
-    close(m_fromBrowser);
-    kill(-m_process, SIGKILL); // with everything that it has started
-    waitpid(m_process, nullptr, 0);
+    ::kill(-processGroup(), SIGKILL);
+    m_process->waitForFinished();
 }
 
-json Browser::nextMessage()
+pid_t Browser::processGroup() const
 {
-    for (;;) {
-        const std::size_t end = m_received.find('\0');
-        if (end != std::string::npos) {
-            json message = json::parse(m_received.substr(0, end));
-            m_received.erase(0, end + 1);
-            return message;
-        }
-        pollfd readable{m_fromBrowser, POLLIN, 0};
-        char buffer[65536];
-        const ssize_t count = poll(&readable, 1, replyTimeoutMs) == 1
-                                  ? read(m_fromBrowser, buffer, sizeof buffer)
-                                  : 0;
-        if (count <= 0) {
-            throw std::runtime_error("the browser does not answer");
-        }
-        m_received.append(buffer, static_cast<std::size_t>(count));
-    }
+    return static_cast<pid_t>(m_process->processId());
 }
 
 json Browser::call(const std::string& method, json parameters, bool inPage)
@@ -113,18 +50,22 @@ json Browser::call(const std::string& method, json parameters, bool inPage)
     if (inPage) {
         message["sessionId"] = m_session;
     }
-    const std::string text = message.dump() + '\0';
-    if (write(m_toBrowser, text.data(), text.size()) != static_cast<ssize_t>(text.size())) {
-        throw std::runtime_error("the browser is gone");
-    }
+    m_process->write(QByteArray::fromStdString(message.dump() + '\0'));
     for (;;) {
-        json reply = nextMessage();
-        if (reply.value("id", 0) == m_lastCall) {
-            if (reply.contains("error")) {
-                throw std::runtime_error(method + ": " + reply["error"].dump());
+        for (std::size_t end; (end = m_received.find('\0')) != std::string::npos;) {
+            const json reply = json::parse(m_received.substr(0, end));
+            m_received.erase(0, end + 1);
+            if (reply.value("id", 0) == m_lastCall) {
+                if (reply.contains("error")) {
+                    throw std::runtime_error(method + ": " + reply["error"].dump());
+                }
+                return reply["result"];
             }
-            return reply["result"];
         }
+        if (!m_process->waitForReadyRead(replyTimeoutMs)) {
+            throw std::runtime_error("the browser does not answer");
+        }
+        m_received += m_process->readAll().toStdString();
     }
 }
 
@@ -153,9 +94,8 @@ bool Browser::waitUntil(const std::string& expression, std::chrono::milliseconds
     const auto deadline = std::chrono::steady_clock::now() + timeout;
     do {
         // The page itself waits between two looks.
-        const json holds = evaluate("new Promise(done => { const held = !!(" + expression +
-                                    "); held ? done(true) : setTimeout(() => done(false), 20); })");
-        if (holds == true) {
+        if (evaluate("new Promise(done => { const held = !!(" + expression +
+                     "); held ? done(true) : setTimeout(() => done(false), 20); })") == true) {
             return true;
         }
     } while (std::chrono::steady_clock::now() < deadline);
@@ -171,12 +111,6 @@ void Browser::press(const std::string& key, int code)
         }
         call("Input.dispatchKeyEvent", event);
     }
-}
-
-void Browser::savePicture(const std::string& path)
-{
-    const json picture = call("Page.captureScreenshot", {{"format", "png"}});
-    std::ofstream(path, std::ios::binary) << fromBase64(picture.at("data"));
 }
 
 double Browser::heapMegabytes()

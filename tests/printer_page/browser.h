@@ -4,9 +4,12 @@
 #include <nlohmann/json.hpp>
 
 #include <chrono>
+#include <memory>
 #include <string>
 
 #include <sys/types.h>
+
+class QProcess; // whose header takes names that others use
 
 namespace q7test
 {
@@ -29,19 +32,15 @@ public:
                    std::chrono::milliseconds timeout = std::chrono::seconds(10));
     /** Presses and releases a key: " " or a name such as "Tab". */
     void press(const std::string& key, int code);
-    /** What the page shows as a PNG file. */
-    void savePicture(const std::string& path);
     /** What the page's own memory holds, after a collection. */
     double heapMegabytes();
-    pid_t process() const { return m_process; }
+    /** The browser with everything that it has started. */
+    pid_t processGroup() const;
 
 private:
     nlohmann::json call(const std::string& method, nlohmann::json parameters, bool inPage = true);
-    nlohmann::json nextMessage();
 
-    pid_t m_process = -1;
-    int m_toBrowser = -1;
-    int m_fromBrowser = -1;
+    const std::unique_ptr<QProcess> m_process;
     int m_lastCall = 0;
     std::string m_session;
     std::string m_received;

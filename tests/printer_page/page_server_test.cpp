@@ -1,4 +1,5 @@
 #include "printer_page.h"
+#include "streams.h"
 
 #include <asio/io_context.hpp>
 #include <asio/ip/tcp.hpp>
@@ -7,7 +8,6 @@
 #include <httplib.h>
 #include <nlohmann/json.hpp>
 
-#include <random>
 #include <thread>
 
 namespace
@@ -101,10 +101,12 @@ protected:
         return found;
     }
 
-    httplib::Result post(const std::string& path, const std::string& body,
-                         const httplib::Headers& headers)
+    /** The status of an answer to the page's own switches. */
+    int switchedBy(const std::string& body)
     {
-        return m_http.Post(path, headers, body, "application/x-www-form-urlencoded");
+        return m_http
+            .Post("/chaves", {{"X-Q7-Token", m_token}}, body, "application/x-www-form-urlencoded")
+            ->status;
     }
 
     printer_page::PrinterPage m_page;
@@ -162,28 +164,28 @@ TEST_F(PageOverHttp, KeepsTheLatestReceipts)
 
 TEST_F(PageOverHttp, SwitchesWhatThePrinterAnswers)
 {
-    const httplib::Headers own = {{"X-Q7-Token", m_token}};
     const auto answer = [&] { return send(m_page.printerPort(), statusQuery, 1); };
     EXPECT_EQ(answer(), "\x12");
-    EXPECT_EQ(post("/chaves", "papel=sem", own)->status, 204);
+    EXPECT_EQ(switchedBy("papel=sem"), 204);
     EXPECT_EQ(answer(), "\x7E");
-    EXPECT_EQ(post("/chaves", "papel=acabando", own)->status, 204);
+    EXPECT_EQ(switchedBy("papel=acabando"), 204);
     EXPECT_EQ(answer(), "\x1E");
-    EXPECT_EQ(post("/chaves", "papel=tem&silencio=sim", own)->status, 204);
+    EXPECT_EQ(switchedBy("papel=tem&silencio=sim"), 204);
     EXPECT_EQ(send(m_page.printerPort(), statusQuery), "") << "silent";
-    EXPECT_EQ(post("/chaves", "silencio=nao&modelo=TESMO", own)->status, 204);
+    EXPECT_EQ(switchedBy("silencio=nao&modelo=TESMO"), 204);
     EXPECT_EQ(send(m_page.printerPort(), "~HI", 6), "\x02TESMO,V1.00,8,8192KB\x03\r\n");
-    EXPECT_EQ(post("/chaves", "papel=talvez", own)->status, 400);
-    EXPECT_EQ(post("/chaves", "modelo=NENHUM", own)->status, 400);
+    EXPECT_EQ(switchedBy("papel=talvez"), 400);
+    EXPECT_EQ(switchedBy("modelo=NENHUM"), 400);
     EXPECT_EQ(waitForEvent("impressora", [](const json&) { return true; })["modelo"], "TESMO");
 }
 
 TEST_F(PageOverHttp, RefusesWhatIsNotThePage)
 {
-    EXPECT_EQ(post("/chaves", "papel=sem", {})->status, 403) << "no token";
     httplib::Client other(m_origin);
     const httplib::Headers foreign = {{"X-Q7-Token", m_token}, {"Origin", "http://example.org"}};
     EXPECT_EQ(other.Post("/limpar", foreign, "", "text/plain")->status, 403);
+    m_token.clear();
+    EXPECT_EQ(switchedBy("papel=sem"), 403) << "no token";
     EXPECT_EQ(other.Get("/", {{"Host", "example.org"}})->status, 403);
     EXPECT_EQ(other.Get("/eventos", {{"Sec-Fetch-Site", "cross-site"}})->status, 403);
     EXPECT_EQ(send(m_page.printerPort(), statusQuery, 1), "\x12") << "nothing was switched";
@@ -191,7 +193,6 @@ TEST_F(PageOverHttp, RefusesWhatIsNotThePage)
 
 TEST_F(PageOverHttp, OutlivesRequestsThatAreNone)
 {
-    std::mt19937 random(1);
     std::vector<std::string> requests = {
         "",
         "\r\n\r\n",
@@ -207,12 +208,9 @@ TEST_F(PageOverHttp, OutlivesRequestsThatAreNone)
         "PRI * HTTP/2.0\r\n\r\nSM\r\n\r\n",
         std::string("\x16\x03\x01\x02\0\x01\0\x01\xFC\x03\x03", 11),
     };
-    for (int stream = 0; stream < 40; ++stream) {
-        std::string noise;
-        for (int byte = 0; byte < 2000; ++byte) {
-            noise += static_cast<char>(random());
-        }
-        requests.push_back(stream % 2 == 0 ? noise : "GET / HTTP/1.1\r\n" + noise);
+    for (unsigned seed = 1; seed <= 40; ++seed) {
+        requests.push_back((seed % 2 == 0 ? "" : "GET / HTTP/1.1\r\n") +
+                           hostileStream(seed, 2000, "\r\nHost: 127.0.0.1\r\n"));
     }
     for (const std::string& request : requests) {
         send(m_page.pagePort(), request);
@@ -233,16 +231,8 @@ TEST_F(PageOverHttp, OutlivesRequestsThatAreNone)
 
 TEST_F(PageOverHttp, RandomStreamsToThePrinterDoNoHarm)
 {
-    std::mt19937 random(2);
-    const std::string leads = "\x1B\x1D\x10\x1C\n(kLv0aV!W@";
-    for (int stream = 0; stream < 20; ++stream) {
-        std::string noise;
-        while (noise.size() < 30'000) {
-            const auto value = static_cast<unsigned>(random());
-            noise += value % 2 == 0 ? static_cast<char>(value >> 8U)
-                                    : leads[(value >> 8U) % leads.size()];
-        }
-        print(noise);
+    for (unsigned seed = 1; seed <= 12; ++seed) {
+        print(hostileStream(seed, 30'000, ""));
     }
     print(std::string(70'000, '\0') + "\x1B@vivo\n" + cut);
     const json event = waitForEvent("cupons", [&](const json& news) {

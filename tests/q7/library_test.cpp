@@ -1,5 +1,6 @@
 // The library beside the tool: there, missing, of another kind, of another version.
 
+#include "bytes.h"
 #include "q7_impressora.h"
 #include "tool.h"
 
@@ -20,22 +21,15 @@ TEST_F(ToolLibrary, IsFoundAndNamed)
 
 TEST_F(ToolLibrary, ThatDoesNotServeIsSaidInWords)
 {
+    const std::string zeros(200, '\0');
     data.write("libtexto.so", "texto");
-    data.write("lib32.so", std::string("\x7F"
-                                       "ELF\x01\x01\x01",
-                                       7) +
-                               std::string(200, '\0'));
-    data.write("lib64.so", std::string("\x7F"
-                                       "ELF\x02\x01\x01",
-                                       7) +
-                               std::string(200, '\0'));
-    data.write("do_windows.dll", "MZ" + std::string(0x3A, '\0') + "\x40" + std::string(3, '\0') +
-                                     std::string("PE\0\0\x4C\x01", 6));
+    data.write("lib32.so", hex("7F 'ELF' 01 01 01") + zeros);
+    data.write("lib64.so", hex("7F 'ELF' 02 01 01") + zeros);
+    data.write("do_windows.dll",
+               "MZ" + zeros.substr(0, 0x3A) + hex("40 00 00 00 'PE' 00 00 4C 01"));
     const std::string folder = data.path() + '/';
-    const struct {
-        std::string library;
-        std::string happened; // how it begins
-    } rows[] = {
+    const std::pair<std::string, std::string> rows[] = {
+        // The library, and how the words begin.
         {folder + "nada.so", "A biblioteca " + folder + "nada.so não foi encontrada."},
         {folder + "libtexto.so", folder + "libtexto.so não é uma biblioteca."},
         {folder + "do_windows.dll",
@@ -46,17 +40,11 @@ TEST_F(ToolLibrary, ThatDoesNotServeIsSaidInWords)
         {folder + "lib64.so", "A biblioteca " + folder + "lib64.so não pôde ser carregada: "},
         {Q7_OTHER_VERSION, Q7_OTHER_VERSION " é da versão 00.09.00 e não tem a função "},
     };
-    for (const auto& row : rows) {
-        for (const std::vector<std::string>& command :
-             {std::vector<std::string>{"--versao"}, {"estado", "-i", "VANTA@usb"}}) {
-            std::vector<std::string> arguments = command;
-            arguments.insert(arguments.end(), {"--biblioteca", row.library});
-            const ProgramResult result = run(arguments);
-            EXPECT_EQ(1, result.exitCode) << row.library;
-            EXPECT_NE(std::string::npos, result.output.find("O que houve: " + row.happened))
-                << result.output;
-            EXPECT_NE(std::string::npos,
-                      result.output.find("\nCódigo: saída 1 do q7\nO que fazer: "));
+    for (const auto& [library, happened] : rows) {
+        for (const char* command : {"--versao", "estado -i VANTA@usb"}) {
+            const ProgramResult result = run(words(command, {"--biblioteca", library}));
+            EXPECT_TRUE(says(result, 1, "O que houve: " + happened));
+            EXPECT_TRUE(says(result, 1, "\nCódigo: saída 1 do q7\nO que fazer: "));
         }
     }
 }

@@ -62,7 +62,7 @@ TEST_F(ToolLog, ShowsCallsResultsAndBytes)
         "13:42:40.123  Corte devolveu -44: Nada foi enviado\n"
         "13:42:40.123  livre\n",
         run({"log", "mostrar"}).output);
-    EXPECT_EQ("13:42:40.123  livre\n", run({"log", "mostrar", "--ultimas", "1"}).output);
+    EXPECT_EQ("13:42:40.123  livre\n", run(words("log mostrar --ultimas 1")).output);
     EXPECT_EQ(2, run({"log", "mostrar", data.path()}).exitCode);
 }
 
@@ -74,9 +74,7 @@ TEST_F(ToolLog, OfAnyLengthTakesLittleMemory)
     data.write("log_q7.txt", head + "FUNCAO]...............[DirectIO. PARAMETROS:" + much + "]\n" +
                                  head + "COMANDOSENVIADOS].....[" + much + "]\n" + head +
                                  "FUNCAO]...............[Corte. RETORNO:" + much);
-    const ProgramResult result = run({"log", "mostrar", "--ultimas", "3"});
-    EXPECT_EQ(0, result.exitCode);
-    EXPECT_NE(std::string::npos, result.output.find("... e mais "));
+    EXPECT_TRUE(says(run(words("log mostrar --ultimas 3")), 0, "... e mais "));
 #ifndef __SANITIZE_ADDRESS__ // whose quarantine keeps what was freed
     rusage used = {};
     getrusage(RUSAGE_CHILDREN, &used);
@@ -89,9 +87,9 @@ TEST_F(ToolLog, GoesToTheSupportWithoutWhatIsPrivate)
     data.write("log_q7.txt", "");
     data.write("q7_usb.ini", "[VANTA]\nvendor_id=0abc\n");
     TcpPrinter printer;
-    const std::string documents = Q7_DOCUMENTS;
-    for (const char* name : {"/autorizada-consumidor-cpf.xml", "/venda-completa.xml"})
-        ask({"imprimir", documents + name, "-i", at(printer), "--csc", "7", "SEGREDO123"}, 0);
+    for (const char* document :
+         {Q7_DOCUMENTS "/autorizada-consumidor-cpf.xml", Q7_DOCUMENTS "/venda-completa.xml"})
+        ask(words("imprimir --csc 7 SEGREDO123 -i", {at(printer), document}), 0);
     ASSERT_NE(std::string::npos, data.read("log_q7.txt").find("SEGREDO123"));
 
     const std::string file = data.path() + "/caso.txt";

@@ -31,14 +31,22 @@ Names namesIn(const std::string& text, const std::string& pattern)
 }
 
 struct Language {
-    const char* name;
     const char* file;
     const char* declared; // what the library is asked for
     const char* offered;  // what applications call
 };
 
-class Declarations : public testing::TestWithParam<Language>
-{
+const Language languages[] = {
+    {"delphi/Q7Impressora.pas", "external Biblioteca name '(\\w+)'",
+     "(?:function|procedure) (\\w+).*\r\nbegin"},
+    {"csharp/Q7Impressora.cs", "internal static extern \\w+ (\\w+)\\(",
+     "public static \\w+ (\\w+)\\("},
+    {"vb6/Q7Impressora.bas", "Declare \\w+ (?:dll)?(\\w+) Lib \"Q7_Impressora.dll\"",
+     "^Public (?:Declare )?(?:Function|Sub) (\\w+)"},
+    {"java/q7/Q7Impressora.java", "^        (?:int|void|Pointer) (\\w+)\\(",
+     "public static \\w+ (\\w+)\\("},
+    {"python/q7_impressora.py", "^    \\(\"(\\w+)\", ", "^def ([A-Za-z]\\w*)"},
+    {"php/Q7Impressora.php", "^        \\['\\w+\\*?', '(\\w+)\\(", "public static function (\\w+)"},
 };
 
 } // namespace
@@ -53,35 +61,16 @@ TEST(Declarations, AreWhatTheHeaderMakes)
     EXPECT_EQ(made.size(), checkedIn.size());
 }
 
-TEST_P(Declarations, NameEveryExportOnce)
+TEST(Declarations, NameEveryExportOnce)
 {
     const Names exports = namesIn(q7test::fileContent(Q7_EXPORT_LIST), "^([A-Za-z]\\w*)$");
-    const std::string text = q7test::fileContent(fs::path(Q7_CHECKED_IN) / GetParam().file);
-    EXPECT_EQ(exports, namesIn(text, GetParam().declared));
-    // The message of a code is the one function that the library does not have.
-    Names offered = namesIn(text, GetParam().offered);
-    offered.erase(std::remove_if(offered.begin(), offered.end(),
-                                 [](const std::string& name) {
-                                     return name == "Mensagem" || name == "mensagem";
-                                 }),
-                  offered.end());
-    EXPECT_EQ(exports, offered);
+    for (const auto& [file, declared, offered] : languages) {
+        const std::string text = q7test::fileContent(fs::path(Q7_CHECKED_IN) / file);
+        EXPECT_EQ(exports, namesIn(text, declared)) << file;
+        // The message of a code is the one function that the library does not have.
+        Names own = namesIn(text, offered);
+        for (const char* message : {"Mensagem", "mensagem"})
+            own.erase(std::remove(own.begin(), own.end(), message), own.end());
+        EXPECT_EQ(exports, own) << file;
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Languages, Declarations,
-    testing::Values(
-        Language{"Delphi", "delphi/Q7Impressora.pas", "external Biblioteca name '(\\w+)'",
-                 "(?:function|procedure) (\\w+).*\r\nbegin"},
-        Language{"CSharp", "csharp/Q7Impressora.cs", "internal static extern \\w+ (\\w+)\\(",
-                 "public static \\w+ (\\w+)\\("},
-        Language{"Vb6", "vb6/Q7Impressora.bas",
-                 "Declare \\w+ (?:dll)?(\\w+) Lib \"Q7_Impressora.dll\"",
-                 "^Public (?:Declare )?(?:Function|Sub) (\\w+)"},
-        Language{"Java", "java/q7/Q7Impressora.java", "^        (?:int|void|Pointer) (\\w+)\\(",
-                 "public static \\w+ (\\w+)\\("},
-        Language{"Python", "python/q7_impressora.py", "^    \\(\"(\\w+)\", ",
-                 "^def ([A-Za-z]\\w*)"},
-        Language{"Php", "php/Q7Impressora.php", "^        \\['\\w+\\*?', '(\\w+)\\(",
-                 "public static function (\\w+)"}),
-    [](const auto& row) { return row.param.name; });

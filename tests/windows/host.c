@@ -1,10 +1,33 @@
 #include "host.h"
 
-#include "dynamic_library.h"
-
 #include <stdarg.h>
 #include <stdio.h>
 #include <stdlib.h>
+
+#ifdef _WIN32
+#include <windows.h>
+static void* openLibrary(const char* path)
+{
+    return (void*)LoadLibraryA(path);
+}
+static AnyFunction findFunction(void* library, const char* name)
+{
+    return (AnyFunction)GetProcAddress((HMODULE)library, name);
+}
+#else
+#include <dlfcn.h>
+static void* openLibrary(const char* path)
+{
+    return dlopen(path, RTLD_NOW);
+}
+static AnyFunction findFunction(void* library, const char* name)
+{
+    /* C has no cast for this; POSIX promises that the bytes are the same. */
+    AnyFunction function = NULL;
+    *(void**)&function = dlsym(library, name);
+    return function;
+}
+#endif
 
 static int failures;
 

@@ -2,6 +2,10 @@
 #ifndef Q7_TESTS_WINDOWS_HOST_H
 #define Q7_TESTS_WINDOWS_HOST_H
 
+#ifdef __cplusplus
+extern "C" {
+#endif
+
 typedef void (*AnyFunction)(void);
 
 /** Prints "ok NAME" or "FAILED NAME: ..." (printf form) and counts the failure. Returns passed. */
@@ -19,10 +23,11 @@ AnyFunction exportOf(void* library, const char* name);
 /** An export, typed as the public header declares it. */
 #define TYPED_EXPORT(library, name) ((__typeof__(&name))exportOf(library, #name))
 
-/** A local pointer to an export. */
-#define USE_EXPORT(library, name) __typeof__(&name) p##name = TYPED_EXPORT(library, name)
-
 /** What the file holds, for the caller to free, or ends the program. */
 char* contentOf(const char* path);
+
+#ifdef __cplusplus
+}
+#endif
 
 #endif

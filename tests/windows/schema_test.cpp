@@ -1,8 +1,10 @@
-// Schema validation on Windows: paths with accents and blanks, and what must not be opened.
+// What no export shows on Windows: the settings file, and schema validation with paths that have
+// accents and blanks, and with what must not be opened.
+#include "config_file.h"
+#include "host.h"
 #include "q7_impressora.h"
 #include "xsd_validator.h"
 
-#include <cstdio>
 #include <filesystem>
 #include <fstream>
 
@@ -10,14 +12,6 @@ namespace
 {
 
 namespace fs = std::filesystem;
-
-bool failed = false;
-
-void check(const char* name, bool passed)
-{
-    std::printf("%s %s\n", passed ? "ok" : "FAILED", name);
-    failed = failed || !passed;
-}
 
 void write(const fs::path& file, const std::string& content)
 {
@@ -40,6 +34,12 @@ std::string including(const std::string& location)
 
 int main()
 {
+    const auto check = [](const char* name, bool passed) { ::check(name, passed ? 1 : 0, ""); };
+    fs::remove(fs::path(q7::configFilePath()));
+    check("settings file made", q7::ensureConfigFile());
+    check("default read back", q7::config::caminhoXsd(q7::IniFile(q7::configFilePath())) ==
+                                   "C:/Program Files (x86)/Q7/");
+
     const std::string part =
         schemaOf("<xs:simpleType name='T'><xs:restriction base='xs:int'/></xs:simpleType>");
     const fs::path folder = fs::temp_directory_path() / fs::u8path("q7 não lidos");
@@ -65,5 +65,5 @@ int main()
         check(("not " + outside).c_str(), result("<r>1</r>") == Q7_ERR_XSD);
     }
     fs::remove_all(folder);
-    return failed ? 1 : 0;
+    return exitStatus();
 }

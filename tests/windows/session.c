@@ -6,11 +6,12 @@
  *   text BYTES                      prints numbered lines, so many bytes together, in one call
  *   sale FILE OPTIONS | cancellation FILE OPTIONS SIGNATURE | note FILE OPTIONS
  *   status KIND | id KIND
+ *   elsewhere COMMAND...            in a thread of its own
+ *   nothing NUMBER                  calls the empty library, which gives the number back
  *   hold PORT | release             opens a serial port beside the library
  *   unstoppable                     from here on the system ends no operation that is under way
- *   threads                         says how many the process has */
+ *   threads | handles               says how many the process has; handles, up to a constant */
 #include "host.h"
-#include "process.h"
 #include "q7_impressora.h"
 
 #include <fcntl.h>
@@ -19,6 +20,8 @@
 #include <stdlib.h>
 #include <string.h>
 #include <windows.h>
+
+#include <tlhelp32.h>
 
 static const char* dll;
 static void* library;
@@ -89,6 +92,38 @@ static int makeUnstoppable(void)
            memcpy(code, returnFalse, sizeof returnFalse) != NULL;
 }
 
+static int countThreads(void)
+{
+    THREADENTRY32 entry = {.dwSize = sizeof entry};
+    HANDLE snapshot = CreateToolhelp32Snapshot(TH32CS_SNAPTHREAD, 0);
+    int count = 0;
+    for (BOOL more = Thread32First(snapshot, &entry); more; more = Thread32Next(snapshot, &entry))
+        count += entry.th32OwnerProcessID == GetCurrentProcessId();
+    CloseHandle(snapshot);
+    return count;
+}
+
+/* The system gives new handles the lowest free value, so leaked ones push this up. (Wine counts no
+ * handles.) */
+static int handlesInUse(void)
+{
+    HANDLE event = CreateEventA(NULL, TRUE, FALSE, NULL);
+    CloseHandle(event);
+    return (int)(UINT_PTR)event / 4;
+}
+
+static DWORD WINAPI obeyInThread(void* words);
+
+static int obeyElsewhere(char* const* words)
+{
+    DWORD result = 0;
+    HANDLE thread = CreateThread(NULL, 0, obeyInThread, (void*)words, 0, NULL);
+    WaitForSingleObject(thread, INFINITE);
+    GetExitCodeThread(thread, &result);
+    CloseHandle(thread);
+    return (int)result;
+}
+
 /* Returns the command's result, or writes it to text (100 bytes) where it is no number. */
 static int obey(const char* command, char* const* argument, char* text)
 {
@@ -110,6 +145,10 @@ static int obey(const char* command, char* const* argument, char* text)
         return TYPED_EXPORT(library, StatusImpressora)(atoi(argument[0]));
     if (strcmp(command, "id") == 0)
         return snprintf(text, 100, "%s", TYPED_EXPORT(library, IdImpressora)(atoi(argument[0])));
+    if (strcmp(command, "elsewhere") == 0)
+        return obeyElsewhere(argument);
+    if (strcmp(command, "nothing") == 0)
+        return ((int (*)(int))exportOf(library, "doNothing"))(atoi(argument[0]));
     if (strcmp(command, "hold") == 0)
         return holdPort(argument[0]);
     if (strcmp(command, "release") == 0)
@@ -118,8 +157,17 @@ static int obey(const char* command, char* const* argument, char* text)
         return makeUnstoppable();
     if (strcmp(command, "threads") == 0)
         return countThreads();
+    if (strcmp(command, "handles") == 0)
+        return handlesInUse();
     fprintf(stderr, "unknown command %s\n", command);
     exit(2);
+}
+
+static DWORD WINAPI obeyInThread(void* words)
+{
+    char* const* argument = words;
+    char text[100];
+    return (DWORD)obey(argument[0], argument + 1, text);
 }
 
 int main(int argc, char** argv)

@@ -16,10 +16,10 @@ int main(int argc, char** argv)
     QCoreApplication application(argc, argv);
     int failedLine = 0;
     const std::unique_ptr<QThread> worker(
-        QThread::create([&] { failedLine = runHostSequence(&printers); }));
+        QThread::create([&] { failedLine = runHostSequence(printers); }));
     QObject::connect(worker.get(), &QThread::finished, &application, [&] {
         // Then from the thread of the event loop itself.
-        QCoreApplication::exit(failedLine != 0 ? failedLine : runHostSequence(&printers));
+        QCoreApplication::exit(failedLine != 0 ? failedLine : runHostSequence(printers));
     });
     QTimer::singleShot(0, worker.get(), [&] { worker->start(); });
     return QCoreApplication::exec();

@@ -243,15 +243,3 @@ TEST_F(PageOverHttp, RandomStreamsToThePrinterDoNoHarm)
     });
     EXPECT_FALSE(event.is_null());
 }
-
-TEST(PrinterPage, SaysThatAPortIsTaken)
-{
-    printer_page::PrinterPageSettings settings;
-    settings.pagePort = 0;
-    const printer_page::PrinterPage first(settings);
-    settings.pagePort = first.pagePort();
-    EXPECT_THROW(printer_page::PrinterPage second(settings), std::system_error);
-    settings.pagePort = 0;
-    settings.printer.port = first.printerPort();
-    EXPECT_THROW(printer_page::PrinterPage third(settings), std::system_error);
-}

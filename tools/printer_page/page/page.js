@@ -231,7 +231,7 @@ function showPrinter(state) {
   tellCount();
 }
 
-async function ask(path, body) {
+async function post(path, body) {
   const trouble = byId('trouble');
   try {
     const answer = await fetch(path, { method: 'POST', headers: { 'X-Q7-Token': token }, body });
@@ -240,6 +240,13 @@ async function ask(path, body) {
     trouble.textContent = 'A impressora virtual não respondeu: ela ainda está aberta?';
   }
   trouble.hidden = trouble.textContent === '';
+}
+
+// One behind the other: on two connections the earlier one may arrive last, and what was chosen last
+// would not hold.
+let asked = Promise.resolve();
+function ask(path, body) {
+  asked = asked.then(() => post(path, body));
 }
 
 // A small window is for the receipts.

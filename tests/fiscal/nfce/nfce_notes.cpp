@@ -52,6 +52,15 @@ std::string NfceTest::printed(const std::string& xml, int options, int cscId, co
     return takeSent();
 }
 
+void NfceTest::expectRefused(const std::vector<Refusal>& rows)
+{
+    for (const Refusal& row : rows)
+        EXPECT_EQ(row.result, ImprimeXMLNFCe(row.xml.c_str(), 1, row.csc, row.options)) << row.xml;
+    for (const std::string& logged : data.takeLog())
+        EXPECT_EQ(logged.find("RETORNO"), std::string::npos) << logged;
+    EXPECT_EQ("", takeSent());
+}
+
 testing::AssertionResult ReceiptTest::isAsLaidOut()
 {
     openModel(GetParam().model);

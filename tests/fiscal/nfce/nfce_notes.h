@@ -23,6 +23,14 @@ std::string without(std::string xml, const std::string& element, const std::stri
 /** Whether these lines, in the form of golden files, stand one behind the other in the bytes. */
 testing::AssertionResult contains(const std::string& bytes, const std::vector<std::string>& lines);
 
+/** What a call answers that prints nothing. */
+struct Refusal {
+    std::string xml;
+    int result;
+    int options = 0;
+    const char* csc = "TOKEN";
+};
+
 class NfceTest : public ExportTest
 {
 protected:
@@ -31,6 +39,9 @@ protected:
     /** What the printer gets of a note that is printed. */
     std::string printed(const std::string& xml, int options = 0, int cscId = 1,
                         const char* csc = "");
+
+    /** Nothing of these notes gets to the printer, nor a result into the log. */
+    void expectRefused(const std::vector<Refusal>& rows);
 };
 
 /** A document on a model, with the golden file that has its receipt. */

@@ -59,20 +59,6 @@ struct Placing {
     bool isBeside;
 };
 
-class PlacedQrCode : public testing::TestWithParam<Placing>
-{
-};
-
-TEST_P(PlacedQrCode, IsLargeEnoughAndFits)
-{
-    const Placing& row = GetParam();
-    const auto qr = place(row.text, row.lineDots, row.isBesideAllowed);
-    ASSERT_TRUE(qr);
-    EXPECT_EQ(qr->moduleDots, row.moduleDots);
-    EXPECT_EQ(qr->sideDots, row.sideDots);
-    EXPECT_EQ(qr->isBesideText, row.isBeside);
-}
-
 // Sizes at the borders of the versions.
 const Placing placings[] = {
     {"62_bytes", letters(62), 576, true, 6, 198, true},
@@ -100,8 +86,17 @@ const Placing placings[] = {
     {"109_bytes_with_a_key", qrText(109), 576, true, 5, 225, true},
     {"231_bytes_with_a_key", qrText(231), 576, true, 4, 244, false},
 };
-INSTANTIATE_TEST_SUITE_P(Sizes, PlacedQrCode, testing::ValuesIn(placings),
-                         [](const auto& row) { return std::string(row.param.name); });
+
+TEST(QrPlacement, IsLargeEnoughAndFits)
+{
+    for (const Placing& row : placings) {
+        const auto qr = place(row.text, row.lineDots, row.isBesideAllowed);
+        ASSERT_TRUE(qr) << row.name;
+        EXPECT_EQ(qr->moduleDots, row.moduleDots) << row.name;
+        EXPECT_EQ(qr->sideDots, row.sideDots) << row.name;
+        EXPECT_EQ(qr->isBesideText, row.isBeside) << row.name;
+    }
+}
 
 TEST(QrPlacement, HasNoPlaceForWhatIsTooLong)
 {

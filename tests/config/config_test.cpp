@@ -125,29 +125,22 @@ q7::FiscalLayout layoutIn(const DataFolder& data, const std::string& name)
 
 TEST(FiscalFile, ChoosesTheLayout)
 {
+    const std::string inForce = "INFO q7_fiscal.ini: nfce/leiaute EM VIGOR: ";
+    const std::string ignored = "INFO q7_fiscal.ini: nfce/leiaute IGNORADO: ";
+    using Log = std::vector<std::string>;
     const struct {
         const char* content;
         q7::FiscalLayout layout;
-        std::vector<std::string> log;
+        Log log;
     } rows[] = {
-        {"[nfce]\nleiaute=6.0\n",
-         q7::FiscalLayout::Version6_0,
-         {"INFO q7_fiscal.ini: nfce/leiaute EM VIGOR: 6.0"}},
+        {"[nfce]\nleiaute=6.0\n", q7::FiscalLayout::Version6_0, {inForce + "6.0"}},
         {"; comentário\r\n\r\n[outro]\r\nleiaute=5\r\n[nfce]\r\nleiaute = 6.0\r\n",
          q7::FiscalLayout::Version6_0,
-         {"INFO q7_fiscal.ini: nfce/leiaute EM VIGOR: 6.0"}},
-        {"[nfce]\nleiaute=original\n",
-         q7::FiscalLayout::Original,
-         {"INFO q7_fiscal.ini: nfce/leiaute EM VIGOR: original"}},
-        {"", q7::FiscalLayout::Original, {"INFO q7_fiscal.ini: nfce/leiaute EM VIGOR: original"}},
-        {"[nfce]\nleiaute=6\n",
-         q7::FiscalLayout::Original,
-         {"INFO q7_fiscal.ini: nfce/leiaute IGNORADO: 6",
-          "INFO q7_fiscal.ini: nfce/leiaute EM VIGOR: original"}},
-        {"[nfce]\nleiaute=\n",
-         q7::FiscalLayout::Original,
-         {"INFO q7_fiscal.ini: nfce/leiaute IGNORADO: ",
-          "INFO q7_fiscal.ini: nfce/leiaute EM VIGOR: original"}},
+         {inForce + "6.0"}},
+        {"[nfce]\nleiaute=original\n", q7::FiscalLayout::Original, {inForce + "original"}},
+        {"", q7::FiscalLayout::Original, {inForce + "original"}},
+        {"[nfce]\nleiaute=6\n", q7::FiscalLayout::Original, {ignored + "6", inForce + "original"}},
+        {"[nfce]\nleiaute=\n", q7::FiscalLayout::Original, {ignored, inForce + "original"}},
     };
     DataFolder data;
     for (const auto& row : rows) {
@@ -156,12 +149,10 @@ TEST(FiscalFile, ChoosesTheLayout)
         EXPECT_EQ(data.takeLog(), row.log);
     }
     EXPECT_EQ(layoutIn(data, "missing.ini"), q7::FiscalLayout::Original);
-    EXPECT_EQ(data.takeLog(), std::vector<std::string>());
+    EXPECT_EQ(data.takeLog(), Log());
     // A folder in the place of the file.
     EXPECT_EQ(layoutIn(data, ""), q7::FiscalLayout::Original);
-    EXPECT_EQ(data.takeLog(),
-              (std::vector<std::string>{"INFO q7_fiscal.ini: NAO PODE SER LIDO",
-                                        "INFO q7_fiscal.ini: nfce/leiaute EM VIGOR: original"}));
+    EXPECT_EQ(data.takeLog(), (Log{"INFO q7_fiscal.ini: NAO PODE SER LIDO", inForce + "original"}));
 }
 
 } // namespace

@@ -60,6 +60,8 @@ const Row commandRows[] = {
     {CALL(ImpressaoTexto("x", 0, 16, 120)), -42},
     {CALL(ImpressaoTexto("x", 0, 0, 120)), -43},
     {CALL(EspacamentoEntreLinhas(0)), -43},
+    {CALL(EspacamentoEntreLinhas(1)), 0},
+    {CALL(EspacamentoEntreLinhas(255)), 0},
     {CALL(DefinePosicao(0)), 0, "1B 61 00"},
     {CALL(DefinePosicao(-1)), 0, "1B 61 FF"},
     {CALL(DefinePosicao(3)), -41},
@@ -69,6 +71,12 @@ const Row commandRows[] = {
     {CALL(AbreGaveta(1, 50, 0)), 0, "1B 70 31 32"}, // ends at the first time of 0
     {CALL(AbreGaveta(2, 256, 0)), -121},
     {CALL(AbreGaveta(0, 256, 0)), -122},
+    {CALL(AbreGaveta(-1, 0, 0)), -121},
+    {CALL(AbreGaveta(0, -1, 0)), -122},
+    {CALL(AbreGaveta(0, 0, 256)), -122},
+    {CALL(AbreGaveta(0, 0, -1)), -122},
+    {CALL(AbreGaveta(0, 0, 255)), 0, "1B 70 30"},
+    {CALL(AbreGaveta(0, 255, 255)), 0, "1B 70 30 FF FF"},
     {CALL(AbreGavetaTavlo()), 0, "1B 70 30 64 64"},
     // One of the two times may be out of its range.
     {CALL(SinalSonoro(63, 0, 255)), 0, "1B 28 41 05 00 61 64  3F 00 FF"},
@@ -77,6 +85,8 @@ const Row commandRows[] = {
 
     {CALL(DirecaoImpressao(3)), 0, "1B 54 03"},
     {CALL(DirecaoImpressao(4)), -136},
+    {CALL(DirecaoImpressao(0)), 0, "1B 54 00"},
+    {CALL(DirecaoImpressao(-1)), -136},
     {CALL(PosicaoImpressaoHorizontal(-300)), 0, "1B 24 D4 FF"}, // / 256, toward zero: -1
     {CALL(PosicaoImpressaoHorizontal(501)), -137},
     {CALL(PosicaoImpressaoVertical(70000)), 0, "1D 24 70 11"},
@@ -86,12 +96,16 @@ const Row commandRows[] = {
     {CALL(ImprimeImagemMemoria("A", 3)), -131},
     {CALL(ImprimeImagemMemoria(nullptr, 1)), -131},
     {CALL(ImprimeImagemMemoria(" ~", 3)), -132},
+    {CALL(ImprimeImagemMemoria(" ~", 0)), -132},
+    {CALL(ImprimeImagemMemoria(" ~", 1)), 0, "1D 28 4C 06 00 30 45  20 7E 01 01"},
 
     // Three characters are announced, five bytes follow.
     {CALL(ImpressaoQRCode("ção", 1, 1)), 0,
      "1D 28 6B 03 00 31 43 01  1D 28 6B 03 00 31 45 30  1D 28 6B 06 00 31 50 30  C3 A7 C3 A3 6F"
      "  1D 28 6B 03 00 31 51 30  0A"},
     {CALL(ImpressaoQRCode("", 7, 5)), -51},
+    {CALL(ImpressaoQRCode("", 0, 5)), -51},
+    {CALL(ImpressaoQRCode("", 1, 0)), -52},
     {CALL(ImpressaoQRCode("", 6, 5)), -52},
     {CALL(ImpressaoQRCode(nullptr, 6, 4)), -53},
     {CALL(ImpressaoQRCode("A", 1, 2)), 0, "1D 6F 00 01 00 02  1D 6B 0B 4D 41 2C  41 00 0A",
@@ -130,6 +144,11 @@ const Row commandRows[] = {
     {CALL(ImpressaoCodigoBarras(8, nullptr, 255, 7, 5)), -62},
     {CALL(ImpressaoCodigoBarras(8, nullptr, 255, 6, 5)), -63},
     {CALL(ImpressaoCodigoBarras(8, nullptr, 255, 6, 4)), -65},
+    {CALL(ImpressaoCodigoBarras(-1, nullptr, 0, 0, 0)), -64},
+    {CALL(ImpressaoCodigoBarras(0, nullptr, 0, 0, 0)), -61},
+    {CALL(ImpressaoCodigoBarras(0, nullptr, 1, 0, 0)), -62},
+    {CALL(ImpressaoCodigoBarras(0, nullptr, 1, 1, 0)), -63},
+    {CALL(ImpressaoCodigoBarras(0, nullptr, 1, 1, 1)), -65},
 };
 INSTANTIATE_TEST_SUITE_P(Exports, Command, testing::ValuesIn(commandRows));
 

@@ -122,7 +122,8 @@ int main(int argc, char** argv)
             const int kind = 1 + upTo(2);
             constexpr Fault ways[] = {Fault::Close, Fault::Reset, Fault::Garbage, Fault::Babble};
             const Fault fault = !isLost ? Fault::None : kind == 3 ? ways[upTo(3)] : Fault::Close;
-            const auto atByte = 3U + static_cast<unsigned>(upTo(2000));
+            // The model's query has three bytes, and a terminal that goes takes its answer with it.
+            const auto atByte = 4U + static_cast<unsigned>(upTo(2000));
             std::optional<Till> till;
             // A busy machine may keep a printer from answering in time; not three.
             for (int attempt = 0; attempt < 3 && !(till && till->isOpen()); ++attempt)

@@ -52,20 +52,4 @@ TEST(FiscalXmlDocument, FirstPartIsOptionalInTheDocument)
     EXPECT_EQ(bare.textAt("nfeProc|protNFe|infProt|nProt"), "");
 }
 
-TEST(FiscalXmlDocument, HonoursEncodingAndReferences)
-{
-    const FiscalXmlDocument document("<?xml version='1.0' encoding='ISO-8859-1'?>"
-                                     "<a><b d='\xe7&#33;'><c>&lt;\xe7&#xe7;</c></b></a>");
-    EXPECT_EQ(document.textAt("a|b|c"), QString::fromUtf8("<çç"));
-    EXPECT_EQ(document.attributeAt("a|b|d"), QString::fromUtf8("ç!"));
-}
-
-TEST(FiscalXmlDocument, TextCutOffAnywhereLeavesNothing)
-{
-    const QByteArray whole(authorised);
-    for (int size = 0; size < whole.size(); ++size)
-        ASSERT_EQ(FiscalXmlDocument(whole.left(size)).textAt("nfeProc|NFe|infNFe|ide|nNF"), "")
-            << size;
-}
-
 } // namespace

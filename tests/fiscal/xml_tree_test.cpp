@@ -21,15 +21,6 @@ QByteArray times(const char* text, int count)
 {
     return QByteArray(text).repeated(count);
 }
-QByteArray numbered(const char* pattern, int first, int last)
-{
-    QByteArray text;
-    for (int i = first; i <= last; ++i)
-        text += QByteArray(pattern)
-                    .replace("#-", QByteArray::number(i - 1))
-                    .replace("#", QByteArray::number(i));
-    return text;
-}
 QByteArray note(const QByteArray& body)
 {
     return "<r><f>x</f>" + body + "</r>";
@@ -83,20 +74,13 @@ TEST_P(BoundedXml, CostsLittleAndPrintsNothing)
 }
 
 const Row rows[] = {
-    {"Binary", numbered("\xff\x01#\xc3<\xfe", 1, 20000), false},
+    {"Binary", times("\xff\x01\xc3<\xfe", 20000), false},
     {"NotUtf8", note("\xc7\xe3"), true},
     {"ElementsNestedToTheLimit", note(times("<d>", 255) + times("</d>", 255)), true},
     {"ElementsNestedBeyondIt", note(times("<d>", 256) + times("</d>", 256)), false},
     {"UndeclaredInAttribute", "<r><f a='&f;'>x</f></r>", true},
     {"UndeclaredManyTimes", note(times("&e;", 300000)), true},
     {"DocumentType", "<!DOCTYPE r>" + note(""), false},
-    {"DocumentTypeOfAFile", "<!DOCTYPE r SYSTEM '/dev/zero'>" + note(""), false},
-    {"EntitiesNested",
-     "<!DOCTYPE r [<!ENTITY e0 'lol'>" +
-         numbered("<!ENTITY e# '&e#-;&e#-;&e#-;&e#-;&e#-;'>", 1, 15) + "]>" + note("&e15;"),
-     false},
-    {"ParameterEntityThatNests",
-     "<!DOCTYPE r [<!ENTITY % p '<!ELEMENT d " + times("(", 60000) + "'> %p;]>" + note(""), false},
     {"ParenthesesNestedDeep",
      "<!DOCTYPE r [<!ELEMENT d " + times("(", 200000) + "d" + times(")", 200000) + ">]>" + note(""),
      false},
@@ -170,6 +154,8 @@ void expectSameTree(const std::string& text)
 
 TEST(XmlTree, AnswersAsQtsOwnTreeDoes)
 {
+    ASSERT_NO_FATAL_FAILURE(expectSameTree("<?xml version='1.0' encoding='ISO-8859-1'?>"
+                                           "<x Id='\xe7&#33;'><p>&lt;\xe7&#xe7;</p></x>"));
     unsigned seed = 0;
     for (const char* name :
          {"venda-completa", "cancelamento", "autorizada-consumidor-cpf", "contingencia-offline"}) {

@@ -16,7 +16,6 @@ constexpr int byteCapacities[] = {14,   26,   42,   62,   84,   106,  122,  152,
                                   251,  287,  331,  362,  412,  450,  504,  560,  624,  666,
                                   711,  779,  857,  911,  997,  1059, 1125, 1190, 1264, 1370,
                                   1452, 1538, 1628, 1722, 1809, 1911, 1989, 2099, 2213, 2331};
-constexpr int versions = static_cast<int>(std::size(byteCapacities));
 
 int modulesOf(int version)
 {

@@ -61,7 +61,7 @@ Bitmap rasterRows(std::string_view bytes, int bytesPerRow, int widthDots, int ac
             bytes.substr(static_cast<std::size_t>(y) * static_cast<std::size_t>(bytesPerRow));
         for (int x = 0; x < widthDots; ++x) {
             const auto byte = static_cast<unsigned char>(row[static_cast<std::size_t>(x) / 8]);
-            if ((byte & (0x80U >> (x % 8U))) != 0) {
+            if ((byte & (0x80U >> (x % 8))) != 0) {
                 dots.fill(x * across, y * down, across, down);
             }
         }
